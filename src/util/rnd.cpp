@@ -1,0 +1,49 @@
+#include "util/rnd.h"
+
+#include <chrono>
+
+namespace kvl {
+
+namespace {
+std::uint64_t SplitMix(std::uint64_t& x) {
+  std::uint64_t z = (x += 0x9e3779b97f4a7c15ULL);
+  z = (z ^ (z >> 30)) * 0xbf58476d1ce4e5b9ULL;
+  z = (z ^ (z >> 27)) * 0x94d049bb133111ebULL;
+  return z ^ (z >> 31);
+}
+std::uint64_t Rotl(std::uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
+}  // namespace
+
+void Rnd::seed_state(std::uint64_t seed) {
+  for (auto& s : s_) s = SplitMix(seed);
+}
+
+// xoshiro256**: fast, and good enough for a game's draws.
+std::uint64_t Rnd::next() {
+  std::uint64_t result = Rotl(s_[1] * 5, 7) * 9;
+  std::uint64_t t = s_[1] << 17;
+  s_[2] ^= s_[0];
+  s_[3] ^= s_[1];
+  s_[1] ^= s_[2];
+  s_[0] ^= s_[3];
+  s_[2] ^= t;
+  s_[3] = Rotl(s_[3], 45);
+  return result;
+}
+
+void Rnd::setMasterSeed(std::optional<std::uint64_t> seed) {
+  master_ = seed;
+  if (seed) seed_state(*seed);
+}
+
+void Rnd::Randomize() {
+  if (master_) {
+    *master_ = SplitMix(*master_);
+    seed_state(*master_);
+  } else {
+    seed_state(static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count()) ^
+               static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()));
+  }
+}
+
+}  // namespace kvl
