@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+
+#include "util/clock.h"
+#include "util/dates.h"
+
+#include <ctime>
+
+namespace kvl {
+namespace {
+
+std::string Show(const CivilTime& t) {
+  return std::to_string(t.year) + '-' + std::to_string(t.month) + '-' + std::to_string(t.day) + ' ' +
+         std::to_string(t.hour) + ':' + std::to_string(t.minute) + ':' + std::to_string(t.second);
+}
+
+TEST(DateSerial, CountsDaysFromTheEpoch) {
+  struct Case { int y, m, d; double out; };
+  for (Case c : {Case{1899, 12, 30, 0}, {1899, 12, 31, 1}, {1900, 1, 1, 2}, {1900, 2, 28, 60}, {1900, 3, 1, 61},
+                 {1970, 1, 1, 25569}, {2000, 1, 1, 36526}, {2023, 3, 15, 45000}, {1899, 12, 29, -1},
+                 {1800, 1, 1, -36522}}) {
+    EXPECT_EQ(DateSerial(c.y, c.m, c.d), c.out) << c.y << '-' << c.m << '-' << c.d;
+  }
+}
+
+TEST(DateSerial, CarriesMonthsAndDaysOutOfRange) {
+  EXPECT_EQ(DateSerial(2026, 13, 1), DateSerial(2027, 1, 1));
+  EXPECT_EQ(DateSerial(2026, 0, 1), DateSerial(2025, 12, 1));
+  EXPECT_EQ(DateSerial(2026, 3, 0), DateSerial(2026, 2, 28));
+  EXPECT_EQ(DateSerial(2024, 3, 0), DateSerial(2024, 2, 29));
+  EXPECT_EQ(DateSerial(2026, 1, 32), DateSerial(2026, 2, 1));
+}
+
+TEST(Weekday, KnownDays) {
+  struct Case { double date; int weekday; };
+  for (Case c : {Case{0, 7}, {-1, 6}, {2, 2}, {45000, 4}, {DateSerial(2026, 11, 21), 7},
+                 {DateSerial(2000, 1, 1), 7}, {DateSerial(1969, 7, 20), 1}, {DateSerial(1800, 1, 1), 4}}) {
+    EXPECT_EQ(Weekday(c.date), c.weekday) << c.date;
+  }
+}
+
+TEST(ToCivil, SplitsDayAndTime) {
+  struct Case { double date; CivilTime t; };
+  for (Case c : {Case{45000.5, {2023, 3, 15, 12, 0, 0}}, {-1.25, {1899, 12, 29, 6, 0, 0}},
+                 // Between -1 and 0 the time counts from 30 Dec 1899 as well.
+                 {-0.25, {1899, 12, 30, 6, 0, 0}}, {1.9999999, {1900, 1, 1, 0, 0, 0}},
+                 {-2.9999999, {1899, 12, 29, 0, 0, 0}}, {-36522, {1800, 1, 1, 0, 0, 0}}}) {
+    EXPECT_EQ(ToCivil(c.date), c.t) << c.date;
+  }
+}
+
+int DaysInMonth(int y, int m) {
+  static const int kDays[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+  bool leap = (y % 4 == 0 && y % 100 != 0) || y % 400 == 0;
+  return m == 2 && leap ? 29 : kDays[m - 1];
+}
+
+TEST(ToCivil, WalksTheCalendarDayByDay) {
+  CivilTime expected{1700, 1, 1, 0, 0, 0};
+  for (double day = DateSerial(1700, 1, 1); day < DateSerial(2200, 1, 1); ++day) {
+    ASSERT_EQ(ToCivil(day), expected) << day;
+    if (++expected.day > DaysInMonth(expected.year, expected.month)) {
+      expected.day = 1;
+      if (++expected.month > 12) expected = {expected.year + 1, 1, 1, 0, 0, 0};
+    }
+  }
+}
+
+TEST(DateTime, RoundTripsThroughToCivil) {
+  for (long i = 0; i < 20000; ++i) {
+    CivilTime t = ToCivil(-40000 + i * 7);
+    t.hour = static_cast<int>(i % 24);
+    t.minute = static_cast<int>(i * 7 % 60);
+    t.second = static_cast<int>(i * 13 % 60);
+    ASSERT_EQ(ToCivil(DateTime(t)), t) << i;
+  }
+}
+
+struct DateCase {
+  CivilTime t;
+  const char* mask;
+  const char* out;
+};
+
+void PrintTo(const DateCase& c, std::ostream* os) { *os << Show(c.t) << " \"" << c.mask << '"'; }
+
+class FormatDateTest : public testing::TestWithParam<DateCase> {};
+
+TEST_P(FormatDateTest, MatchesTheOldFormat) {
+  const DateCase& c = GetParam();
+  EXPECT_EQ(FormatDate(DateTime(c.t), c.mask), c.out);
+}
+
+constexpr CivilTime kSat{2026, 11, 21, 15, 7, 9};
+
+INSTANTIATE_TEST_SUITE_P(
+    Tokens, FormatDateTest,
+    testing::Values(DateCase{kSat, "dddd, mmm d yyyy", "Saturday, Nov 21 2026"},
+                    DateCase{kSat, "hh:mm:ss AMPM", "03:07:09 PM"},
+                    DateCase{kSat, "hh:mm ampm mmm d", "03:07 pm Nov 21"},
+                    DateCase{kSat, "mm/dd/yyyy", "11/21/2026"}, DateCase{kSat, "DD/MM/YYYY", "21/11/2026"},
+                    DateCase{kSat, "d/m/yy", "21/11/26"}, DateCase{kSat, "ddd mmmm", "Sat November"},
+                    DateCase{kSat, "h:nn:ss", "15:07:09"}, DateCase{kSat, "hh:mm", "15:07"},
+                    DateCase{kSat, "h:n:s", "15:7:9"}, DateCase{kSat, "y", "325"},
+                    DateCase{kSat, "h:mm AM/PM", "3:07 PM"}, DateCase{{2009, 3, 5, 9, 4, 0}, "d-m-yy", "5-3-09"},
+                    DateCase{{1899, 12, 29, 6, 0, 0}, "mm/dd/yyyy hh:nn", "12/29/1899 06:00"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    TwelveHourEdges, FormatDateTest,
+    testing::Values(DateCase{{2026, 1, 1, 0, 30, 0}, "hh:mm AMPM", "12:30 AM"},
+                    DateCase{{2026, 1, 1, 0, 30, 0}, "hh:nn", "00:30"},
+                    DateCase{{2026, 1, 1, 1, 5, 0}, "h:nn ampm", "1:05 am"},
+                    DateCase{{2026, 1, 1, 11, 59, 0}, "hh:mm AMPM", "11:59 AM"},
+                    DateCase{{2026, 1, 1, 12, 0, 0}, "hh:mm AMPM", "12:00 PM"},
+                    DateCase{{2026, 1, 1, 12, 30, 0}, "h:mm ampm", "12:30 pm"},
+                    DateCase{{2026, 1, 1, 23, 59, 0}, "hh:mm AMPM", "11:59 PM"}));
+
+TEST(SystemClock, GivesTodayInLocalTime) {
+  double unixDays = static_cast<double>(std::time(nullptr)) / 86400.0 + DateSerial(1970, 1, 1);
+  // Local time is at most 14 hours off UTC.
+  EXPECT_NEAR(SystemClock().now(), unixDays, 14.0 / 24 + 0.001);
+}
+
+}  // namespace
+}  // namespace kvl
