@@ -1,1 +1,96 @@
-int main() { return 0; }
+// kvl: the commissioner's console on the command line.
+#include <CLI/CLI.hpp>
+
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+
+#include "console/main_console.h"
+#include "console/startup.h"
+#include "session.h"
+#include "shell.h"
+#include "util/error.h"
+
+namespace kvl {
+namespace {
+
+struct GlobalOptions {
+  std::string home;
+  std::string league;
+  std::optional<std::uint64_t> seed;
+  bool yes = false, no = false;
+  std::string answers;
+};
+
+fs::path HomeFolder(const std::string& given) {
+  if (!given.empty()) return fs::absolute(given);
+  if (const char* env = std::getenv("KVL_HOME"); env && *env) return fs::absolute(env);
+  if (const char* xdg = std::getenv("XDG_DATA_HOME"); xdg && *xdg) return fs::path(xdg) / "kvl";
+  const char* user = std::getenv("HOME");
+  return fs::path(user ? user : ".") / ".local/share/kvl";
+}
+
+void AddGlobalOptions(CLI::App& app, GlobalOptions& g) {
+  app.add_option("--home", g.home, "home folder (default $KVL_HOME, else $XDG_DATA_HOME/kvl)");
+  app.add_option("--league", g.league, "league to open instead of the last one (.lge file or path without extension)");
+  app.add_option("--seed", g.seed, "make every random draw of the run repeatable");
+  app.add_flag("--yes", g.yes, "answer yes to every question");
+  app.add_flag("--no", g.no, "answer no to every question");
+  app.add_option("--answers", g.answers, "a file of answers, one a line, to questions, prompts and file choices")
+      ->check(CLI::ExistingFile);
+}
+
+void ApplyAnswers(Session& s, const GlobalOptions& g) {
+  if (g.yes) s.ui.answerAll(Answer::Yes);
+  if (g.no) s.ui.answerAll(Answer::No);
+  if (!g.answers.empty()) {
+    std::ifstream in(g.answers);
+    for (std::string line; std::getline(in, line);) {
+      if (!line.empty() && line.back() == '\r') line.pop_back();
+      s.ui.addAnswer(line);
+    }
+  }
+}
+
+// Start-up, the command, then the exit protocol, as one run of the console.
+int RunOnce(Session& s, HomeLock& lock) {
+  int rc = RunGuarded(s, [&] {
+    StartSession(s, lock);
+  });
+  if (rc != kExitOk) return rc;
+  rc = RunGuarded(s, s.pending);
+  if (rc == kExitFailure) return rc;  // a failed command saves nothing
+  int exitRc = RunGuarded(s, [&] { MainConsole(s.state).Exit(); });
+  return rc != kExitOk ? rc : exitRc;
+}
+
+int Main(int argc, char** argv) {
+  GlobalOptions g;
+  CLI::App app{"KVL: a hockey league simulator and commissioner's console"};
+  app.require_subcommand(1);
+  AddGlobalOptions(app, g);
+  Session s(fs::path{});
+  bool shell = false;
+  app.add_subcommand("shell", "An interactive console that keeps the league open across commands")
+      ->callback([&] { shell = true; });
+  RegisterAllCommands(app, s);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& e) {
+    return app.exit(e) == 0 ? kExitOk : kExitUsage;
+  }
+  s.home = HomeFolder(g.home);
+  s.state.AppPath = s.home;
+  if (!g.league.empty()) s.leagueArg = g.league;
+  s.state.rnd.setMasterSeed(g.seed);
+  ApplyAnswers(s, g);
+  TerminalUi::InstallStopHandler();
+  HomeLock lock;
+  if (shell) return RunShell(s, lock);
+  return RunOnce(s, lock);
+}
+
+}  // namespace
+}  // namespace kvl
+
+int main(int argc, char** argv) { return kvl::Main(argc, argv); }

@@ -1,0 +1,41 @@
+// The console's own commands: info, load, save, save-as, rename-league.
+#include "console/league_view.h"
+#include "console/main_console.h"
+#include "league/league_files.h"
+#include "session.h"
+
+namespace kvl {
+
+namespace {
+fs::path AsLeagueFile(std::string p) {
+  if (StripLeagueExtension(p) == p) p += ".lge";
+  return fs::absolute(p);
+}
+}  // namespace
+
+void RegisterLeagueCommands(CLI::App& app, Session& s) {
+  AddCommand(app, s, "info", "Show the open league: conferences, divisions, teams, state and enabled commands", false,
+             [&s] { s.ui.print(InfoText(s.state)); });
+
+  auto path = std::make_shared<std::string>();
+  AddCommand(app, s, "load", "Load a league (asks to save unsaved work first)", false,
+             [&s, path] { MainConsole(s.state).LoadLeague(AsLeagueFile(*path)); })
+      ->add_option("PATH", *path, "the league's .lge file, or its path without extension")
+      ->required();
+
+  AddCommand(app, s, "save", "Save the open league over its files", true, [&s] { MainConsole(s.state).SaveLeague(); });
+
+  auto newPath = std::make_shared<std::string>();
+  AddCommand(app, s, "save-as", "Save the open league under a new name", true,
+             [&s, newPath] { MainConsole(s.state).SaveAs(AsLeagueFile(*newPath)); })
+      ->add_option("PATH", *newPath, "the new league file (.lge added when missing)")
+      ->required();
+
+  auto name = std::make_shared<std::string>();
+  AddCommand(app, s, "rename-league", "Change the league's name (25 characters at most)", true,
+             [&s, name] { MainConsole(s.state).RenameLeague(*name); })
+      ->add_option("NAME", *name, "the new name")
+      ->required();
+}
+
+}  // namespace kvl

@@ -1,0 +1,103 @@
+#include "console/startup.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <fstream>
+
+#include "league/league_files.h"
+#include "ui/ui.h"
+#include "util/record_file.h"
+
+namespace kvl {
+
+bool HomeLock::acquire(const fs::path& home) {
+  fd_ = ::open((home / "kvl.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+  if (fd_ < 0) throw KvlError("cannot open the lock file in " + home.string());
+  if (::flock(fd_, LOCK_EX | LOCK_NB) == 0) return true;
+  ::close(fd_);
+  fd_ = -1;
+  return false;
+}
+
+HomeLock::~HomeLock() {
+  if (fd_ >= 0) ::close(fd_);
+}
+
+League DefaultLeagueHeader() {
+  League lg;
+  for (auto* f : {&lg.OutputDir, &lg.BoxscoreDir, &lg.CommandDir}) f->set("");
+  lg.LgTextA.set("");
+  lg.OptCoach = lg.OptInjuries = lg.LgFlagA = kTrue;
+  lg.OptStreaks = lg.OptSuspensions = lg.OptWaivers = lg.OptAutoOutput = kTrue;
+  lg.Slider.fill(5);
+  lg.CurrentYear = 1;
+  lg.AgeExempt = 23;
+  lg.UnresAge = 30;
+  lg.MinGP = 25;
+  lg.TradeDeadline = 80;
+  lg.TwoWayAfter = 50;
+  lg.DraftRounds = 9;
+  lg.OptLottery = kTrue;
+  std::fill_n(lg.CheckFlags.begin(), 16, u8{255});
+  return lg;
+}
+
+void PrepareHomeFolder(const fs::path& home) {
+  for (const char* dir : {"Headers", "Transfer", "Boxscores", "Command"}) fs::create_directories(home / dir);
+  fs::path lge = home / "default.lge";
+  if (!fs::exists(lge)) WriteFileAtomic(lge, EncodeRecord(DefaultLeagueHeader()));
+}
+
+namespace {
+
+std::string ReadKvlDef(const fs::path& home) {
+  std::ifstream in(home / "kvl.def");
+  std::string line;
+  std::getline(in, line);
+  while (!line.empty() && (line.back() == '\r' || line.back() == '\n')) line.pop_back();
+  return line;
+}
+
+// The first league file of the home folder other than default.lge, by name.
+std::string SearchHome(const fs::path& home) {
+  std::vector<std::string> found;
+  for (const auto& e : fs::directory_iterator(home)) {
+    std::string name = e.path().filename().string();
+    if (e.is_regular_file() && StripLeagueExtension(name) != name && StripLeagueExtension(name) != "default")
+      found.push_back(name);
+  }
+  if (found.empty()) return "";
+  std::sort(found.begin(), found.end());
+  return (home / StripLeagueExtension(found.front())).string();
+}
+
+}  // namespace
+
+std::string FindStartLeague(LeagueState& s) {
+  bool hasDef = fs::exists(s.AppPath / "kvl.def");
+  std::string path = hasDef ? ReadKvlDef(s.AppPath) : "";
+  if (hasDef && !path.empty() && fs::exists(FindLeagueFile(path, ".lge"))) return path;
+  if (!path.empty())
+    s.ui.tell("The last league files you loaded, " + path + "\nare not accessible.\n\nKVL will search for other league files.",
+              "Load Last League");
+  else
+    s.ui.tell("KVL was unable to find default league files.\nKVL will search for league files.", "Load Default League");
+  std::string found = SearchHome(s.AppPath);
+  if (found.empty())
+    s.ui.tell("Searching " + s.AppPath.string() +
+                  " did not reveal any league files.\nYou must load new league files using the File|Load menu.",
+              "Load Local League Files");
+  return found;
+}
+
+void StartUp(LeagueState& s, const std::optional<std::string>& league) {
+  PrepareHomeFolder(s.AppPath);
+  std::string path = league ? fs::absolute(StripLeagueExtension(*league)).lexically_normal().string() : FindStartLeague(s);
+  if (path.empty()) return;
+  LoadLg(s, path);
+}
+
+}  // namespace kvl

@@ -1,0 +1,33 @@
+#pragma once
+// Start-up of the console: the home folder, the one-copy lock, the default
+// header, and finding the last league.
+#include <optional>
+#include <string>
+
+#include "league/league_state.h"
+
+namespace kvl {
+
+// Holds an exclusive lock on the home folder while the program runs.
+class HomeLock {
+ public:
+  // False when another copy holds it.
+  bool acquire(const fs::path& home);
+  ~HomeLock();
+
+ private:
+  int fd_ = -1;
+};
+
+// The header a new default.lge holds.
+League DefaultLeagueHeader();
+// Creates the folders and default.lge when missing.
+void PrepareHomeFolder(const fs::path& home);
+// Finds the league to open (kvl.def, else a search of the home folder), telling
+// as the old console did. Empty when there is none.
+std::string FindStartLeague(LeagueState& s);
+// The whole start-up after the lock: folders, defaults, then `league` when given
+// (without extension), else the last league, loaded.
+void StartUp(LeagueState& s, const std::optional<std::string>& league);
+
+}  // namespace kvl

@@ -1,0 +1,255 @@
+#include "league/league_files.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cctype>
+#include <fstream>
+
+#include "league/roster_check.h"
+#include "league/schedule_convert.h"
+#include "ui/ui.h"
+#include "util/record_file.h"
+
+namespace kvl {
+
+const std::vector<LeagueFileKind>& LeagueFileKinds() {
+  static const std::vector<LeagueFileKind> kinds{
+      {".tms", swp::Teams, Team::kSize},         {".ros", swp::Roster, Player::kSize},
+      {".pct", swp::Prospects, ProspectList::kSize}, {".lge", swp::League, League::kSize},
+      {".drs", swp::Database, DbRecord::kSize},  {".dpk", swp::Picks, DraftPickRecord::kSize},
+      {".coa", swp::Coaches, Coach::kSize},      {".fas", swp::Futures, ContractFuture::kSize},
+      {".dft", swp::DraftList, DraftListRecord::kSize}, {".eml", swp::Email, 0},
+      {".rec", swp::Rec, 0},                     {".csr", swp::Career, CareerRecord::kSize},
+      {".tra", swp::Transactions, 0},            {".htr", swp::History, 0},
+      {".wvr", swp::Waivers, WaiverRecord::kSize}, {".scd", swp::OldSchedule, 0},
+      {".scx", swp::Schedule, ScheduleRecord::kSize}, {".pri", swp::Priority, 1},
+      {".frm", swp::Farm, FarmTeam::kSize},      {".plf", "", PlayoffState::kSize},
+  };
+  return kinds;
+}
+
+const LeagueFileKind& FileKind(const std::string& ext) {
+  for (const auto& k : LeagueFileKinds())
+    if (ext == k.ext) return k;
+  throw KvlError("unknown league file kind " + ext);
+}
+
+namespace {
+
+std::string Lower(std::string s) {
+  for (auto& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return s;
+}
+
+// The files LoadLg copies, in its order; true where the load fails without it.
+const std::vector<std::pair<std::string, bool>>& LoadOrder() {
+  static const std::vector<std::pair<std::string, bool>> order{
+      {".tms", true},  {".ros", true},  {".pct", false}, {".lge", true},  {".drs", true},  {".dpk", true},
+      {".coa", true},  {".fas", false}, {".dft", false}, {".eml", false}, {".rec", false}, {".csr", false},
+      {".tra", false}, {".htr", false}, {".wvr", false}, {".scd", false}, {".scx", false}, {".pri", false},
+  };
+  return order;
+}
+
+// The swap files SaveLg copies back, in its order.
+const std::vector<std::string>& SaveOrder() {
+  static const std::vector<std::string> order{".tms", ".dft", ".ros", ".frm", ".fas", ".pct", ".scx", ".dpk",
+                                              ".pri", ".coa", ".drs", ".eml", ".tra", ".htr", ".csr", ".rec"};
+  return order;
+}
+
+[[noreturn]] void MissingFile(LeagueState& s, const fs::path& file) {
+  s.ui.tell("KVL was unable to find the following file \n" + file.string() +
+                "\nPlease ensure that you have a complete set of league files.",
+            "File not found");
+  RemoveIfExists(s.AppPath / "kvl.def");
+  throw FatalStop("missing league file " + file.string());
+}
+
+[[noreturn]] void Damaged(const fs::path& file, const std::string& what) {
+  throw KvlError(fmt::format("{}: {}", file.string(), what));
+}
+
+// Everything that would make the load stop half way is checked before any swap
+// file is touched.
+League CheckFileSet(LeagueState& s, const std::string& path) {
+  for (const auto& [ext, required] : LoadOrder()) {
+    fs::path f = FindLeagueFile(path, ext);
+    if (!fs::exists(f)) {
+      if (required) MissingFile(s, f);
+      continue;
+    }
+    std::size_t len = FileKind(ext).recordLen;
+    auto size = fs::file_size(f);
+    if (len > 0 && size % len != 0)
+      Damaged(f, fmt::format("{} bytes is not a whole number of {}-byte records; the file is damaged", size, len));
+  }
+  fs::path lge = FindLeagueFile(path, ".lge");
+  Bytes header = ReadFileBytes(lge);
+  if (header.size() != League::kSize)
+    Damaged(lge, fmt::format("the league header is {} bytes, it should be {}", header.size(), League::kSize));
+  League lg = DecodeRecord<League>(header);
+  lg.NumTeams = static_cast<u8>(lg.NumTeams + 1);
+  if (lg.NumTeams > kMaxTeams)
+    Damaged(lge, fmt::format("the header counts {} teams, at most {} are possible", lg.NumTeams, kMaxTeams));
+  fs::path tms = FindLeagueFile(path, ".tms");
+  auto teamRecords = fs::file_size(tms) / Team::kSize;
+  if (teamRecords < lg.NumTeams)
+    Damaged(tms, fmt::format("holds {} teams but the league has {}", teamRecords, lg.NumTeams));
+  if (lg.InPlayoffs) {
+    fs::path plf = FindLeagueFile(path, ".plf");
+    if (!fs::exists(plf)) MissingFile(s, plf);
+    if (fs::file_size(plf) < PlayoffState::kSize) Damaged(plf, "the playoff state is shorter than 388 bytes");
+  }
+  return lg;
+}
+
+void CopyToSwap(LeagueState& s, const std::string& path) {
+  for (const auto& [ext, required] : LoadOrder()) {
+    fs::path f = FindLeagueFile(path, ext);
+    fs::path w = s.swap(FileKind(ext).swap);
+    if (fs::exists(f)) CopyFileAtomic(f, w);
+    else if (ext != ".pct") RemoveIfExists(w);
+  }
+}
+
+void ReadTeamsAndFarm(LeagueState& s, const std::string& path, bool clearWaived) {
+  fs::path frm = FindLeagueFile(path, ".frm");
+  if (fs::exists(frm)) {
+    CopyFileAtomic(frm, s.swap(swp::Farm));
+    RecordFile f(s.swap(swp::Farm), FarmTeam::kSize);
+    for (int i = 0; i < s.numTeams(); ++i) s.Farm[static_cast<std::size_t>(i)] = f.getRecord<FarmTeam>(static_cast<std::size_t>(i) + 1);
+  } else {
+    RemoveIfExists(s.swap(swp::Farm));
+  }
+  RecordFile t(s.swap(swp::Teams), Team::kSize);
+  for (int i = 0; i < s.numTeams(); ++i) {
+    Team& team = s.team(i);
+    team = t.getRecord<Team>(static_cast<std::size_t>(i) + 1);
+    if (clearWaived) team.Waived = kFalse;
+  }
+}
+
+}  // namespace
+
+std::string StripLeagueExtension(const std::string& path) {
+  if (path.size() >= 4 && Lower(path.substr(path.size() - 4)) == ".lge") return path.substr(0, path.size() - 4);
+  return path;
+}
+
+std::string ExtractLast(const std::string& path) {
+  auto pos = path.find_last_of("/\\");
+  return pos == std::string::npos ? path : path.substr(pos + 1);
+}
+
+fs::path FindLeagueFile(const std::string& leaguePath, const std::string& ext) {
+  fs::path exact(leaguePath + ext);
+  if (fs::exists(exact)) return exact;
+  fs::path base(leaguePath);
+  fs::path dir = base.has_parent_path() ? base.parent_path() : fs::path(".");
+  std::string stem = base.filename().string() + Lower(ext);
+  std::error_code ec;
+  for (const auto& e : fs::directory_iterator(dir, ec)) {
+    std::string name = e.path().filename().string();
+    if (name.size() == stem.size() && name.compare(0, stem.size() - ext.size(), base.filename().string()) == 0 &&
+        Lower(name.substr(name.size() - ext.size())) == Lower(ext))
+      return e.path();
+  }
+  return exact;
+}
+
+void WriteKvlDef(const LeagueState& s) {
+  std::ofstream out(s.AppPath / "kvl.def", std::ios::trunc);
+  out << s.LeaguePath << "\r\n";
+}
+
+void LoadLg(LeagueState& s, const std::string& path) {
+  League lg = CheckFileSet(s, path);
+  bool wvrMissing = !fs::exists(FindLeagueFile(path, ".wvr"));
+  CopyToSwap(s, path);
+  for (auto& c : lg.Conf)
+    if (c.NumDivs == 0) c.NumDivs = 2;
+  s.league = lg;
+  ReadTeamsAndFarm(s, path, wvrMissing);
+  if (lg.InPlayoffs)
+    s.Playoff = DecodeRecord<PlayoffState>(ReadFileBytes(FindLeagueFile(path, ".plf")));
+  s.LeaguePath = path;
+  s.LeagueShort = ExtractLast(path);
+  s.loaded = true;
+  WriteKvlDef(s);
+  s.Dirty = false;
+  ConvertSchedCheck(s);
+  if (!s.league.InPlayoffs && s.league.PointSystem > 3) s.league.PointSystem = 0;
+  RosterCheck(s);
+}
+
+void SaveLg(LeagueState& s) {
+  if (s.LeaguePath.empty()) throw KvlError("the league has no name to save under");
+  {
+    RecordFile t(s.swap(swp::Teams), Team::kSize);
+    RecordFile f(s.swap(swp::Farm), FarmTeam::kSize);
+    for (int i = 0; i < s.numTeams(); ++i) {
+      t.putRecord(static_cast<std::size_t>(i) + 1, s.team(i));
+      f.putRecord(static_cast<std::size_t>(i) + 1, s.Farm[static_cast<std::size_t>(i)]);
+    }
+  }
+  League stored = s.league;
+  stored.NumTeams = static_cast<u8>(stored.NumTeams - 1);
+  WriteFileAtomic(FindLeagueFile(s.LeaguePath, ".lge"), EncodeRecord(stored));
+  for (const auto& ext : SaveOrder()) {
+    fs::path w = s.swap(FileKind(ext).swap);
+    fs::path f = FindLeagueFile(s.LeaguePath, ext);
+    if (fs::exists(w)) CopyFileAtomic(w, f);
+    else RemoveIfExists(f);
+  }
+  fs::path wv = s.swap(swp::Waivers);
+  if (fs::exists(wv)) {
+    Bytes all = ReadFileBytes(wv);
+    Bytes kept;
+    for (std::size_t at = 0; at + WaiverRecord::kSize <= all.size(); at += WaiverRecord::kSize)
+      if (all[at] >= 1) kept.insert(kept.end(), all.begin() + static_cast<long>(at), all.begin() + static_cast<long>(at + WaiverRecord::kSize));
+    WriteFileAtomic(FindLeagueFile(s.LeaguePath, ".wvr"), kept);
+  }
+  if (s.league.InPlayoffs) WriteFileAtomic(FindLeagueFile(s.LeaguePath, ".plf"), EncodeRecord(s.Playoff));
+  s.Dirty = false;
+}
+
+bool SaveLeagueAs(LeagueState& s, const std::string& defaultName, std::optional<fs::path> chosen) {
+  if (!chosen)
+    chosen = s.ui.chooseFile(defaultName.empty() ? "Save League As" : defaultName,
+                                "All Files|*.*|KVL League Files|*.lge", fs::path(s.LeaguePath + ".lge"), true);
+  if (!chosen) return false;
+  if (fs::exists(*chosen) && s.ui.ask("File Exists! Overwrite?", "Save League", Buttons::YesNo) != Answer::Yes)
+    return false;
+  std::string name = chosen->string();
+  s.LeaguePath = StripLeagueExtension(name);
+  SaveLg(s);
+  s.LeagueShort = ExtractLast(s.LeaguePath);
+  return true;
+}
+
+void loadteam(LeagueState& s, int team, int side) {
+  RecordFile r(s.swap(swp::Roster), Player::kSize);
+  for (int slot = 0; slot < kRosterSlots; ++slot) {
+    Player p = r.getRecord<Player>(static_cast<std::size_t>(team * kRosterSlots + slot + 1));
+    if (p.Name.empty()) p = Player{};
+    else if (p.Condition == 0) p.Condition = 100;
+    s.player(side, slot) = p;
+  }
+  RecordFile pr(s.swap(swp::Prospects), ProspectList::kSize);
+  s.Prospects[static_cast<std::size_t>(side)] = pr.getRecord<ProspectList>(static_cast<std::size_t>(team) + 1);
+}
+
+void SaveTeam(LeagueState& s, int team, int side) {
+  {
+    RecordFile r(s.swap(swp::Roster), Player::kSize);
+    for (int slot = 0; slot < kRosterSlots; ++slot)
+      r.putRecord(static_cast<std::size_t>(team * kRosterSlots + slot + 1), s.player(side, slot));
+  }
+  RecordFile(s.swap(swp::Teams), Team::kSize).putRecord(static_cast<std::size_t>(team) + 1, s.team(team));
+  RecordFile(s.swap(swp::Prospects), ProspectList::kSize)
+      .putRecord(static_cast<std::size_t>(team) + 1, s.Prospects[static_cast<std::size_t>(side)]);
+}
+
+}  // namespace kvl

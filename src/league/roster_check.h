@@ -1,0 +1,26 @@
+#pragma once
+// The league-wide check of rosters and coach links, run after every load and
+// before game days.
+#include <string>
+#include <vector>
+
+#include "league/league_state.h"
+
+namespace kvl {
+
+// One team's line of the report: its name and each shortage, or "- Roster OK!".
+struct RosterReport {
+  std::vector<std::string> lines;
+  bool allValid = true;
+};
+
+// Counts the healthy players of team `t` (loaded into side 0) and composes its line.
+std::string RosterLine(LeagueState& s, int t, bool& ok);
+RosterReport CheckRosters(LeagueState& s);
+// Runs the roster check with its messages and InvalidRosters.txt, then the coach
+// check. True when every roster can play.
+bool RosterCheck(LeagueState& s);
+// Repairs broken links between teams and the coach file, telling each repair.
+void CoachCheck(LeagueState& s);
+
+}  // namespace kvl

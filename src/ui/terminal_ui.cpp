@@ -1,0 +1,105 @@
+#include "ui/terminal_ui.h"
+
+#include <unistd.h>
+
+#include <csignal>
+#include <iostream>
+
+#include "ui/scripted_ui.h"
+#include "util/cp1252.h"
+
+namespace kvl {
+
+namespace {
+// Set by SIGINT; a signal handler can reach nothing else.
+volatile std::sig_atomic_t gStop = 0;
+void OnInterrupt(int) { gStop = 1; }
+
+// Records hold Windows-1252; the terminal speaks UTF-8.
+std::string Show(const std::string& s) { return Cp1252ToUtf8(s); }
+}  // namespace
+
+TerminalUi::TerminalUi(std::istream& in, std::ostream& out, std::ostream& err)
+    : in_(in), out_(out), err_(err), interactive_(::isatty(STDERR_FILENO) != 0) {}
+
+void TerminalUi::InstallStopHandler() { std::signal(SIGINT, OnInterrupt); }
+
+void TerminalUi::tell(const std::string& text, const std::string& title) {
+  progressDone();
+  out_ << "[" << Show(title) << "] " << Show(text) << "\n";
+}
+
+std::optional<std::string> TerminalUi::readLine(const std::string& shown) {
+  progressDone();
+  if (!answers_.empty()) {
+    std::string a = answers_.front();
+    answers_.pop_front();
+    out_ << shown << a << "\n";
+    return a == "<cancel>" ? std::nullopt : std::optional<std::string>(Utf8ToCp1252(a));
+  }
+  out_ << shown << std::flush;
+  std::string line;
+  if (!std::getline(in_, line)) {
+    out_ << "\n";
+    return std::nullopt;
+  }
+  if (!line.empty() && line.back() == '\r') line.pop_back();
+  return Utf8ToCp1252(line);
+}
+
+Answer TerminalUi::ask(const std::string& text, const std::string& title, Buttons buttons) {
+  std::string choices = buttons == Buttons::YesNoCancel ? " (yes/no/cancel) " : " (yes/no) ";
+  std::string shown = "[" + Show(title) + "] " + Show(text) + choices;
+  if (answers_.empty() && answerAll_) {
+    out_ << shown << (*answerAll_ == Answer::Yes ? "yes" : "no") << "\n";
+    return *answerAll_;
+  }
+  for (;;) {
+    auto line = readLine(shown);
+    if (!line) return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+    if (auto a = ParseAnswer(*line)) return *a;
+  }
+}
+
+std::optional<std::string> TerminalUi::prompt(const std::string& text, const std::string& title,
+                                              const std::string& defaultValue) {
+  std::string shown = "[" + Show(title) + "] " + Show(text);
+  if (!defaultValue.empty()) shown += " [" + Show(defaultValue) + "]";
+  auto line = readLine(shown + ": ");
+  if (line && line->empty()) return defaultValue;
+  return line;
+}
+
+std::optional<std::filesystem::path> TerminalUi::chooseFile(const std::string& title, const std::string&,
+                                                            const std::filesystem::path& suggested, bool) {
+  std::string shown = "[" + Show(title) + "] file";
+  if (!suggested.empty()) shown += " [" + suggested.string() + "]";
+  auto line = readLine(shown + ": ");
+  if (!line) return std::nullopt;
+  if (line->empty()) return suggested.empty() ? std::nullopt : std::optional<std::filesystem::path>(suggested);
+  return std::filesystem::path(*line);
+}
+
+void TerminalUi::progress(const std::string&, const std::string& label, long value, long max) {
+  if (!interactive_) return;
+  err_ << "\r" << Show(label);
+  if (max > 0) err_ << " " << value << "/" << max;
+  err_ << "\x1b[K" << std::flush;
+  progressShown_ = true;
+}
+
+void TerminalUi::progressDone() {
+  if (!progressShown_) return;
+  err_ << "\r\x1b[K" << std::flush;
+  progressShown_ = false;
+}
+
+bool TerminalUi::stopRequested() { return gStop != 0; }
+
+void TerminalUi::print(const std::string& text) {
+  progressDone();
+  out_ << Show(text);
+  if (text.empty() || text.back() != '\n') out_ << "\n";
+}
+
+}  // namespace kvl

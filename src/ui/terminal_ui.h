@@ -1,0 +1,45 @@
+#pragma once
+// The Ui of a terminal. Questions can be answered in advance (--yes, --no,
+// --answers FILE); otherwise they are read from standard input.
+#include <deque>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include "ui/ui.h"
+
+namespace kvl {
+
+class TerminalUi : public Ui {
+ public:
+  TerminalUi(std::istream& in, std::ostream& out, std::ostream& err);
+
+  void answerAll(Answer a) { answerAll_ = a; }
+  void addAnswer(std::string a) { answers_.push_back(std::move(a)); }
+
+  void tell(const std::string& text, const std::string& title) override;
+  Answer ask(const std::string& text, const std::string& title, Buttons buttons) override;
+  std::optional<std::string> prompt(const std::string& text, const std::string& title,
+                                    const std::string& defaultValue) override;
+  std::optional<std::filesystem::path> chooseFile(const std::string& title, const std::string& filter,
+                                                  const std::filesystem::path& suggested, bool forSave) override;
+  void progress(const std::string& caption, const std::string& label, long value, long max) override;
+  void progressDone() override;
+  bool stopRequested() override;
+  void print(const std::string& text) override;
+
+  // Ctrl-C during a long job asks it to stop between game days.
+  static void InstallStopHandler();
+
+ private:
+  std::optional<std::string> readLine(const std::string& shown);
+  std::istream& in_;
+  std::ostream& out_;
+  std::ostream& err_;
+  std::optional<Answer> answerAll_;
+  std::deque<std::string> answers_;
+  bool progressShown_ = false;
+  bool interactive_;
+};
+
+}  // namespace kvl
