@@ -1,0 +1,21 @@
+#pragma once
+// Draft picks (.dpk): each team's record holds its picks for the next six
+// drafts, entries 1 to 255, each knowing the team it was made for and the owner.
+#include "league/league_state.h"
+
+namespace kvl {
+
+constexpr int kPickYears = 6;
+constexpr int kPickRounds = 9;
+
+// The 54 picks a team starts with: years 0..5, rounds 0..8, all its own.
+DraftPickRecord NewDraftPicks(int team);
+// A fresh picks file for every team of the league, written to the swap file.
+void MakeDraftPicks(LeagueState& s);
+// Orders the team's record by year, then round, then old place; drops inactive entries.
+void SortDraftPicks(LeagueState& s, int team);
+
+DraftPickRecord ReadDraftPicks(LeagueState& s, int team);
+void WriteDraftPicks(LeagueState& s, int team, const DraftPickRecord& picks);
+
+}  // namespace kvl

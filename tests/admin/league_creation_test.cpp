@@ -1,0 +1,135 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "admin/league_creation.h"
+#include "league/league_files.h"
+#include "support/league_fixture.h"
+#include "transactions/draft_picks.h"
+#include "util/error.h"
+#include "util/record_file.h"
+
+namespace kvl {
+namespace {
+
+// A database of `n` players, every one marked as used.
+fs::path WriteUsedDatabase(const fs::path& dir, int n) {
+  Bytes all;
+  for (int i = 0; i < n; ++i) {
+    DbRecord r;
+    r.DbFlag = -1;
+    r.P = test::MakePlayer("Db Player " + std::to_string(i), i % 5, 60);
+    Bytes b = EncodeRecord(r);
+    all.insert(all.end(), b.begin(), b.end());
+  }
+  fs::path db = dir / "marked.drs";
+  WriteFileAtomic(db, all);
+  return db;
+}
+
+struct Fixture {
+  test::Harness h;
+  fs::path db;
+  Fixture() {
+    h.load(test::StandardLeague(8));
+    db = WriteUsedDatabase(h.dir.path(), 12);
+    if (!fs::exists(h.home / "default.coa")) CopyFileAtomic(h.state.swap(swp::Coaches), h.home / "default.coa");
+  }
+};
+
+TEST(CreateLeague, NoToTheFirstQuestionChangesNothing) {
+  Fixture f;
+  Bytes before = ReadFileBytes(f.h.state.swap(swp::Roster));
+  f.h.ui.push("no");
+  EXPECT_FALSE(CreateLeague(f.h.state));
+  EXPECT_EQ(f.h.state.numTeams(), 8);
+  EXPECT_EQ(ReadFileBytes(f.h.state.swap(swp::Roster)), before);
+  EXPECT_TRUE(f.h.ui.callsOf("chooseFile").empty());
+}
+
+TEST(CreateLeague, MakesAnUnnamedLeagueWithNoTeamsAndEveryMarkClear) {
+  Fixture f;
+  LeagueState& s = f.h.state;
+  f.h.ui.push("yes");
+  f.h.ui.push(f.db.string());
+  f.h.ui.push("The Very Long Name Of A New League");
+  ASSERT_TRUE(CreateLeague(s));
+
+  EXPECT_EQ(s.numTeams(), 0);
+  EXPECT_EQ(s.league.LeagueName.raw(), "The Very Long Name Of A N");
+  EXPECT_TRUE(s.LeaguePath.empty());
+  EXPECT_TRUE(s.Dirty);
+  EXPECT_EQ(s.league.Conf[1].Name.raw(), "CONF 2      ");
+  EXPECT_EQ(s.league.Conf[0].Div[2].Name.raw(), "DIV 3     ");
+  EXPECT_EQ(s.league.Conf[0].NumDivs, 2);
+  EXPECT_EQ(s.league.Conf[1].NumDivs, 2);
+
+  RecordFile dr(s.swap(swp::Database), DbRecord::kSize);
+  ASSERT_EQ(dr.count(), 12u);
+  for (std::size_t i = 1; i <= 12; ++i) {
+    DbRecord r = dr.getRecord<DbRecord>(i);
+    EXPECT_EQ(r.DbFlag, 0) << "record " << i;
+    EXPECT_EQ(r.P.Name.str(), "Db Player " + std::to_string(i - 1));
+  }
+  EXPECT_EQ(fs::file_size(s.swap(swp::Roster)), 0u) << "the old league's players are gone";
+  EXPECT_EQ(ReadFileBytes(s.swap(swp::OldSchedule)), Bytes(4642, 0));
+  EXPECT_EQ(ReadFileBytes(s.swap(swp::Coaches)), ReadFileBytes(f.h.home / "default.coa"));
+}
+
+TEST(CreateLeague, AddedTeamsHoldFiftyFourPicksAndTheLeagueSavesAndLoads) {
+  for (int teams : {0, 3}) {
+    Fixture f;
+    LeagueState& s = f.h.state;
+    f.h.ui.push("yes");
+    ASSERT_TRUE(CreateLeague(s, {f.db, "Fresh"}));
+    for (int t = 0; t < teams; ++t) EXPECT_EQ(AddTeam(s, "Club" + std::to_string(t), t % 2, 1), t);
+    std::string path = (f.h.dir.path() / "fresh").string();
+    ASSERT_TRUE(SaveLeagueAs(s, "", fs::path(path + ".lge")));
+    LoadLg(s, path);
+    ASSERT_EQ(s.numTeams(), teams);
+    EXPECT_EQ(s.league.LeagueName.str(), "Fresh");
+    for (int t = 0; t < teams; ++t) {
+      EXPECT_EQ(s.team(t).Name.str(), "Club" + std::to_string(t));
+      EXPECT_EQ(s.team(t).Lines.at(0, 0), kNoPlayer);
+      DraftPickRecord picks = ReadDraftPicks(s, t);
+      EXPECT_EQ(std::count_if(picks.Pick.begin(), picks.Pick.end(), [](const DraftPick& p) { return p.Active != 0; }), 54);
+      EXPECT_TRUE(std::all_of(picks.Pick.begin() + 1, picks.Pick.begin() + 55,
+                              [t](const DraftPick& p) { return p.Owner == t && p.OrigTeam == t; }));
+    }
+    EXPECT_EQ(s.league.Conf[1].Div[1].NumTeams, teams / 2);
+  }
+}
+
+TEST(CreateLeague, AMissingDatabaseOffersAnotherAndNoEndsIt) {
+  Fixture f;
+  f.h.ui.push("yes");
+  f.h.ui.push((f.h.dir.path() / "nowhere.drs").string());
+  f.h.ui.push("no");
+  EXPECT_FALSE(CreateLeague(f.h.state));
+  EXPECT_EQ(f.h.ui.callsOf("ask").back().text,
+            "The player database you have supplied \ndoes not exist. Would you like to try another player database?");
+  EXPECT_EQ(f.h.state.numTeams(), 8);
+}
+
+TEST(CreateLeague, ADamagedDatabaseIsToldAndLeavesTheOpenLeagueAlone) {
+  for (std::size_t size : {std::size_t{0}, DbRecord::kSize - 1, DbRecord::kSize * 3 + 5}) {
+    Fixture f;
+    fs::path bad = f.h.dir.path() / "bad.drs";
+    WriteFileAtomic(bad, Bytes(size, 7));
+    Bytes before = ReadFileBytes(f.h.state.swap(swp::Database));
+    f.h.ui.push("yes");
+    try {
+      CreateLeague(f.h.state, {bad, "Broken"});
+      ADD_FAILURE() << "a database of " << size << " bytes was taken";
+    } catch (const KvlError& e) {
+      EXPECT_NE(std::string(e.what()).find(bad.string()), std::string::npos) << e.what();
+    }
+    EXPECT_TRUE(f.h.ui.told("Errors in file", "Create New League"));
+    EXPECT_EQ(f.h.state.numTeams(), 8);
+    EXPECT_EQ(f.h.state.league.LeagueName.str(), "Test League");
+    EXPECT_EQ(ReadFileBytes(f.h.state.swap(swp::Database)), before);
+  }
+}
+
+}  // namespace
+}  // namespace kvl

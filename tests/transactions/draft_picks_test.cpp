@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "support/league_fixture.h"
+#include "transactions/draft_picks.h"
+
+namespace kvl {
+namespace {
+
+int ActiveCount(const DraftPickRecord& r) {
+  return static_cast<int>(std::count_if(r.Pick.begin(), r.Pick.end(), [](const DraftPick& p) { return p.Active != 0; }));
+}
+
+TEST(DraftPicks, MakeDraftPicksGivesEveryTeamItsOwnFiftyFour) {
+  test::Harness h;
+  h.load(test::StandardLeague(8));
+  MakeDraftPicks(h.state);
+  for (int t = 0; t < 8; ++t) {
+    DraftPickRecord r = ReadDraftPicks(h.state, t);
+    EXPECT_EQ(ActiveCount(r), 54) << "team " << t;
+    EXPECT_EQ(r.Pick[0].Active, 0) << "entry 0 is never used";
+    // Entry 1 + year x 9 + round holds that pick.
+    const DraftPick& p = r.Pick[1 + 4 * 9 + 7];
+    EXPECT_EQ(p.CurrentYear, 4);
+    EXPECT_EQ(p.Round, 7);
+    EXPECT_EQ(p.OrigTeam, t);
+    EXPECT_EQ(p.Owner, t);
+  }
+}
+
+DraftPick Pick(int year, int round, int orig, int owner) {
+  return {static_cast<u8>(year), static_cast<u8>(round), static_cast<u8>(orig), static_cast<u8>(owner), kTrue};
+}
+
+TEST(DraftPicks, SortDropsTradedYearsAndKeepsTheOldOrderWithinARound) {
+  test::Harness h;
+  h.load(test::StandardLeague(8));
+  DraftPickRecord r = NewDraftPicks(2);
+  for (auto& p : r.Pick)
+    if (p.CurrentYear == 3) p.Active = kFalse;  // every pick of that year traded away
+  r.Pick[200] = Pick(0, 1, 6, 2);               // acquired late, lands after the own pick of the round
+  r.Pick[100] = Pick(0, 1, 5, 2);
+  r.Pick[150] = Pick(5, 8, 7, 2);
+  WriteDraftPicks(h.state, 2, r);
+
+  SortDraftPicks(h.state, 2);
+  DraftPickRecord sorted = ReadDraftPicks(h.state, 2);
+  ASSERT_EQ(ActiveCount(sorted), 54 - 9 + 3);
+  int last = 0;
+  for (int i = 1; i < DraftPickRecord::kEntries; ++i) {
+    const DraftPick& p = sorted.Pick[static_cast<std::size_t>(i)];
+    if (!p.Active) {
+      EXPECT_EQ(p.CurrentYear + p.Round + p.OrigTeam + p.Owner, 0) << "entry " << i << " past the last is blank";
+      continue;
+    }
+    EXPECT_EQ(last + 1, i) << "active entries are packed from 1";
+    last = i;
+    EXPECT_NE(p.CurrentYear, 3);
+  }
+  // Year 0, round 1: own pick first, then the one held at entry 100, then 200.
+  EXPECT_EQ(sorted.Pick[2].OrigTeam, 2);
+  EXPECT_EQ(sorted.Pick[3].OrigTeam, 5);
+  EXPECT_EQ(sorted.Pick[4].OrigTeam, 6);
+  EXPECT_EQ(sorted.Pick[5].Round, 2);
+  const DraftPick& tail = sorted.Pick[static_cast<std::size_t>(last)];
+  EXPECT_EQ(tail.CurrentYear, 5);
+  EXPECT_EQ(tail.Round, 8);
+  EXPECT_EQ(tail.OrigTeam, 7);
+}
+
+TEST(DraftPicks, SortOfAnEmptyRecordStaysEmpty) {
+  test::Harness h;
+  h.load(test::StandardLeague(8));
+  WriteDraftPicks(h.state, 0, DraftPickRecord{});
+  SortDraftPicks(h.state, 0);
+  EXPECT_EQ(ActiveCount(ReadDraftPicks(h.state, 0)), 0);
+}
+
+}  // namespace
+}  // namespace kvl
