@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "admin/alignment_renumber.h"
+#include "admin/league_creation.h"
 #include "league/league_files.h"
 #include "transactions/priority.h"
 #include "ui/ui.h"
@@ -30,27 +31,7 @@ bool ListsAreSound(const LeagueState& s) {
   return true;
 }
 
-// Appends the team to the end of the waiver priority list; a league without
-// one gets a fresh list.
-void AddToPriority(LeagueState& s, int team) {
-  if (!fs::exists(s.swap(swp::Priority))) return MakePriority(s);
-  const u8 t = static_cast<u8>(team);
-  RecordFile(s.swap(swp::Priority), 1).put(static_cast<std::size_t>(team) + 1, std::span<const u8>(&t, 1));
-  s.team(team).Priority = t;
-}
-
 }  // namespace
-
-void GiveTeamDefaults(LeagueState& s, int team) {
-  Team& t = s.team(team);
-  t = Team{};
-  t.Lines.cells.fill(kNoPlayer);
-  s.Farm[static_cast<std::size_t>(team)] = FarmTeam{};
-  RecordFile roster(s.swap(swp::Roster), Player::kSize);
-  for (int slot = 0; slot < kRosterSlots; ++slot)
-    roster.putRecord(static_cast<std::size_t>(team * kRosterSlots + slot + 1), Player{});
-  RecordFile(s.swap(swp::Prospects), ProspectList::kSize).putRecord(static_cast<std::size_t>(team) + 1, ProspectList{});
-}
 
 AlignLeague::AlignLeague(LeagueState& s) : s_(s) {
   if (!ListsAreSound(s_)) {
@@ -92,17 +73,11 @@ bool AlignLeague::cmdAdd(int conf, int div, std::optional<std::string> name) {
     Refuse(fmt::format("{} already holds {} teams, the most a division can.", d.Name.str(), kMaxDivisionTeams));
   if (!name) name = s_.ui.prompt("New Team Name", "Add Team", "");
   if (!name || name->empty()) return false;
-  int t = s_.numTeams();
-  s_.league.NumTeams = static_cast<u8>(t + 1);
-  GiveTeamDefaults(s_, t);
-  Team& team = s_.team(t);
-  team.Name.set(name->substr(0, 10));
-  team.Conf = static_cast<u8>(conf);
-  team.Div = static_cast<u8>(div);
-  d.Team[d.NumTeams++] = static_cast<u8>(t);
-  AddToPriority(s_, t);
-  RecordFile(s_.swap(swp::Teams), Team::kSize).putRecord(static_cast<std::size_t>(t) + 1, team);
-  s_.Dirty = true;
+  // A league loaded without a priority list gets a whole one, not a list with
+  // only the new team in it.
+  bool noPriority = !fs::exists(s_.swap(swp::Priority));
+  AddTeam(s_, name->substr(0, 10), conf, div);
+  if (noPriority) MakePriority(s_);
   return true;
 }
 

@@ -43,7 +43,4 @@ class AlignLeague {
   LeagueState& s_;
 };
 
-// A new team's default fields, files and draft picks.
-void GiveTeamDefaults(LeagueState& s, int team);
-
 }  // namespace kvl

@@ -4,6 +4,7 @@
 #include "admin/alignment.h"
 #include "league/league_files.h"
 #include "support/league_fixture.h"
+#include "transactions/draft_picks.h"
 #include "util/error.h"
 #include "util/record_file.h"
 
@@ -42,6 +43,10 @@ TEST_F(Align, AddPromptsAndPlacesANewBlankTeamLast) {
   EXPECT_EQ(TeamsIn(h.state, 1, 0), (std::vector<u8>{2, 4}));
   loadteam(h.state, 4, 0);
   for (int slot = 0; slot < kRosterSlots; ++slot) EXPECT_TRUE(h.state.player(0, slot).empty());
+  DraftPickRecord picks = ReadDraftPicks(h.state, 4);
+  int own = 0;
+  for (const auto& p : picks.Pick) own += p.Active && p.OrigTeam == 4 && p.Owner == 4;
+  EXPECT_EQ(own, 54);
   EXPECT_TRUE(h.state.Dirty);
 }
 
