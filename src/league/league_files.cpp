@@ -71,20 +71,22 @@ const std::vector<std::string>& SaveOrder() {
   throw KvlError(fmt::format("{}: {}", file.string(), what));
 }
 
+void CheckWholeRecords(const fs::path& f, const std::string& ext) {
+  std::size_t len = FileKind(ext).recordLen;
+  auto size = fs::file_size(f);
+  if (len > 0 && size % len != 0)
+    Damaged(f, fmt::format("{} bytes is not a whole number of {}-byte records; the file is damaged", size, len));
+}
+
 // Everything that would make the load stop half way is checked before any swap
 // file is touched.
 League CheckFileSet(LeagueState& s, const std::string& path) {
   for (const auto& [ext, required] : LoadOrder()) {
     fs::path f = FindLeagueFile(path, ext);
-    if (!fs::exists(f)) {
-      if (required) MissingFile(s, f);
-      continue;
-    }
-    std::size_t len = FileKind(ext).recordLen;
-    auto size = fs::file_size(f);
-    if (len > 0 && size % len != 0)
-      Damaged(f, fmt::format("{} bytes is not a whole number of {}-byte records; the file is damaged", size, len));
+    if (fs::exists(f)) CheckWholeRecords(f, ext);
+    else if (required) MissingFile(s, f);
   }
+  if (fs::path frm = FindLeagueFile(path, ".frm"); fs::exists(frm)) CheckWholeRecords(frm, ".frm");
   fs::path lge = FindLeagueFile(path, ".lge");
   Bytes header = ReadFileBytes(lge);
   if (header.size() != League::kSize)

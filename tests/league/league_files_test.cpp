@@ -449,7 +449,8 @@ INSTANTIATE_TEST_SUITE_P(
         DamageCase{"ScheduleCut", ".scx", [](const std::string& p) { Resize(p + ".scx", 31 * 12 - 1); }},
         DamageCase{"CareerCut", ".csr", [](const std::string& p) { Resize(p + ".csr", 87 * 3 - 2); }},
         DamageCase{"FuturesCut", ".fas", [](const std::string& p) { Resize(p + ".fas", 1350 * 10 - 10); }},
-        DamageCase{"DraftListCut", ".dft", [](const std::string& p) { Resize(p + ".dft", 47 * 5 + 4); }}),
+        DamageCase{"DraftListCut", ".dft", [](const std::string& p) { Resize(p + ".dft", 47 * 5 + 4); }},
+        DamageCase{"FarmCut", ".frm", [](const std::string& p) { Resize(p + ".frm", 43 * 10 - 1); }}),
     [](const auto& info) { return std::string(info.param.name); });
 
 // ---- save as -------------------------------------------------------------------
