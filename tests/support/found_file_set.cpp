@@ -33,38 +33,24 @@ Bytes RandomBytes(std::size_t n, std::mt19937& gen) {
 
 namespace {
 
-template <class T>
-T Any(std::mt19937& gen) {
-  return static_cast<T>(gen());
+// Gives each field an arbitrary value of its type.
+template <class... T>
+void Fill(std::mt19937& gen, T&... fields) {
+  ((fields = static_cast<T>(gen())), ...);
 }
 
 void EnrichHeader(League& lg, std::mt19937& gen) {
-  lg.LgByteA = Any<u8>(gen);
-  lg.LgByteB = Any<u8>(gen);
-  lg.LgByteC = Any<u8>(gen);
-  lg.LgByteD = Any<u8>(gen);
-  lg.LgWordA = Any<i16>(gen);
-  lg.NextGameMark = Any<i16>(gen);
-  lg.ExpansionRounds = Any<u8>(gen);
-  for (auto& w : lg.LgWords) w = Any<i16>(gen);
-  for (std::size_t i = 16; i < lg.CheckFlags.size(); ++i) lg.CheckFlags[i] = Any<u8>(gen);
+  Fill(gen, lg.LgByteA, lg.LgByteB, lg.LgByteC, lg.LgByteD, lg.LgWordA, lg.NextGameMark, lg.ExpansionRounds);
+  for (auto& w : lg.LgWords) Fill(gen, w);
+  for (std::size_t i = 16; i < lg.CheckFlags.size(); ++i) Fill(gen, lg.CheckFlags[i]);
   lg.LgTextA.set("kept as is");
   lg.RootDir.set("C:\\KVL");
   lg.Conf[0].Div[3].Name.set("DIV 4");  // a name past NumDivs is kept too
 }
 
 void EnrichTeam(Team& t, std::mt19937& gen) {
-  t.TeamBytesA = {Any<u8>(gen), Any<u8>(gen)};
-  t.TeamByteA = Any<u8>(gen);
-  t.TeamByteB = Any<u8>(gen);
-  t.TeamByteC = Any<u8>(gen);
-  t.TeamByteD = Any<u8>(gen);
-  t.TeamWordA = Any<i16>(gen);
-  t.TeamWordB = Any<i16>(gen);
-  t.TeamWordC = Any<i16>(gen);
-  t.W = {Any<u8>(gen), Any<u8>(gen), Any<u8>(gen)};
-  t.SF = Any<i32>(gen);
-  t.Revenue = Any<i32>(gen);
+  Fill(gen, t.TeamBytesA[0], t.TeamBytesA[1], t.TeamByteA, t.TeamByteB, t.TeamByteC, t.TeamByteD, t.TeamWordA,
+       t.TeamWordB, t.TeamWordC, t.W[0], t.W[1], t.W[2], t.SF, t.Revenue);
   t.Owner.set("Owner Name");
   t.Password.set("secret");
 }
