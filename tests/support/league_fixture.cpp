@@ -39,16 +39,28 @@ Player MakePlayer(const std::string& name, int pos, int level, int status) {
 
 namespace {
 
+// Two divisions a conference, or four when more than 40 teams would overfill them.
+int DivsPerConf(int teams) { return teams > 40 ? 4 : 2; }
+
+struct Place {
+  std::size_t conf, div;
+};
+Place PlaceOf(int t, int teams) {
+  int divs = DivsPerConf(teams);
+  int group = t % (2 * divs);
+  return {static_cast<std::size_t>(group / divs), static_cast<std::size_t>(group % divs)};
+}
+
 void Align(League& lg, int teams) {
   for (int c = 0; c < 2; ++c) {
     auto& conf = lg.Conf[static_cast<std::size_t>(c)];
     conf.Name.set(fmt::format("CONF {}", c + 1));
-    conf.NumDivs = 2;
+    conf.NumDivs = static_cast<u8>(DivsPerConf(teams));
     for (int d = 0; d < 4; ++d) conf.Div[static_cast<std::size_t>(d)].Name.set(fmt::format("DIV {}", d + 1));
   }
   for (int t = 0; t < teams; ++t) {
-    int group = t % 4;  // conference = group / 2, division = group % 2
-    auto& div = lg.Conf[static_cast<std::size_t>(group / 2)].Div[static_cast<std::size_t>(group % 2)];
+    Place at = PlaceOf(t, teams);
+    auto& div = lg.Conf[at.conf].Div[at.div];
     div.Team[div.NumTeams++] = static_cast<u8>(t);
   }
 }
@@ -90,9 +102,9 @@ LeagueSpec StandardLeague(int teams, unsigned seed) {
     team.Arena.set(fmt::format("Arena {}", t));
     team.Seats = 15000;
     team.Ticket = 40;
-    int group = t % 4;
-    team.Conf = static_cast<u8>(group / 2);
-    team.Div = static_cast<u8>(group % 2);
+    Place at = PlaceOf(t, teams);
+    team.Conf = static_cast<u8>(at.conf);
+    team.Div = static_cast<u8>(at.div);
     team.Lines.cells.fill(kNoPlayer);
     spec.teams.push_back(team);
     spec.rosters.push_back(StandardRoster(t, seed));

@@ -37,7 +37,7 @@ struct LeagueSpec {
   std::vector<Coach> coaches;
 };
 
-// `teams` teams in two conferences of two divisions, each with a legal dressed
+// `teams` teams in two conferences of two divisions (four above 40 teams), each with a legal dressed
 // roster (4 C, 4 LW, 4 RW, 7 D, 3 G; 20 dressed) and two minor leaguers. Ratings
 // vary by team and slot with `seed`.
 LeagueSpec StandardLeague(int teams, unsigned seed = 1);
