@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <fstream>
 
+#include "admin/default_data.h"
 #include "league/league_files.h"
 #include "ui/ui.h"
 #include "util/record_file.h"
@@ -45,10 +46,16 @@ League DefaultLeagueHeader() {
   return lg;
 }
 
+void WriteDefaultFiles(const fs::path& dir, bool replace) {
+  auto wanted = [&](const std::string& name) { return replace || !fs::exists(dir / name); };
+  if (wanted("default.lge")) WriteFileAtomic(dir / "default.lge", EncodeRecord(DefaultLeagueHeader()));
+  for (const char* name : kDefaultDataNames)
+    if (wanted(name)) WriteFileAtomic(dir / name, DefaultDataFile(name));
+}
+
 void PrepareHomeFolder(const fs::path& home) {
   for (const char* dir : {"Headers", "Transfer", "Boxscores", "Command"}) fs::create_directories(home / dir);
-  fs::path lge = home / "default.lge";
-  if (!fs::exists(lge)) WriteFileAtomic(lge, EncodeRecord(DefaultLeagueHeader()));
+  WriteDefaultFiles(home, false);
 }
 
 namespace {

@@ -21,7 +21,10 @@ class HomeLock {
 
 // The header a new default.lge holds.
 League DefaultLeagueHeader();
-// Creates the folders and default.lge when missing.
+// Writes the bundled default files (default.lge, default.coa, default.drs,
+// inj.dtf) into `dir`; with `replace` false only those that are missing.
+void WriteDefaultFiles(const fs::path& dir, bool replace);
+// Creates the folders and the default files when missing.
 void PrepareHomeFolder(const fs::path& home);
 // Finds the league to open (kvl.def, else a search of the home folder), telling
 // as the old console did. Empty when there is none.

@@ -33,7 +33,6 @@ struct Fixture {
   Fixture() {
     h.load(test::StandardLeague(8));
     db = WriteUsedDatabase(h.dir.path(), 12);
-    if (!fs::exists(h.home / "default.coa")) CopyFileAtomic(h.state.swap(swp::Coaches), h.home / "default.coa");
   }
 };
 
