@@ -26,17 +26,19 @@ constexpr std::array<Need, 5> kNeeds{{{3, " of the 3 required Centres available"
                                       {2, " of 2 required Goaltenders available"}}};
 constexpr int kNeedPlayers = 20;
 
+constexpr const char* kHeading = "Games cannot be run with invalid rosters:";
+
 void WriteInvalidRosters(LeagueState& s, const RosterReport& r) {
   fs::path file = s.AppPath / "InvalidRosters.txt";
-  std::ofstream out(file, std::ios::trunc);
+  std::ofstream out(file, std::ios::binary | std::ios::trunc);
   double now = s.clock.now();
   out << "Invalid roster configurations were detected in the following league files:\r\n";
   out << s.LeaguePath << ".ros\r\n";
   out << "League Roster Validation performed " << FormatDate(now, "dddd, mmm d yyyy") << " "
       << FormatDate(now, "hh:mm:ss AMPM") << "\r\n";
-  for (const auto& line : r.lines) out << line << "\r\n";
-  s.ui.progress("", "Invalid Rosters Detected", 0, 0);
-  s.ui.tell("Details saved in " + file.string(), "Games cannot be run with invalid rosters:");
+  for (const auto& block : r.lines) out << block;
+  s.ui.progress("Invalid Rosters Detected", kHeading, 0, 0);
+  s.ui.tell("Details saved in " + file.string(), kHeading);
   s.ui.progressDone();
 }
 
@@ -52,19 +54,18 @@ std::string RosterLine(LeagueState& s, int t, bool& ok) {
     ++total;
     if (p.Pos < 5) ++byPos[p.Pos];
   }
-  std::string line = s.team(t).Name.str();
+  // The name stands in its padded width, as the fixed field prints.
+  std::string block = PadCut(s.team(t).Name.str(), 10);
   ok = true;
-  if (total < kNeedPlayers) {
-    line += fmt::format(" - only {} of {} players available", total, kNeedPlayers);
+  auto shortage = [&](int n, const std::string& tail) {
+    block += fmt::format("- only {}{}\r\n", n, tail);
     ok = false;
-  }
-  for (std::size_t pos = 0; pos < kNeeds.size(); ++pos) {
-    if (byPos[pos] >= kNeeds[pos].count) continue;
-    line += fmt::format(" - only {}{}", byPos[pos], kNeeds[pos].tail);
-    ok = false;
-  }
-  if (ok) line += " - Roster OK!";
-  return line;
+  };
+  if (total < kNeedPlayers) shortage(total, fmt::format(" of {} players available", kNeedPlayers));
+  for (std::size_t pos = 0; pos < kNeeds.size(); ++pos)
+    if (byPos[pos] < kNeeds[pos].count) shortage(byPos[pos], kNeeds[pos].tail);
+  if (ok) block += "- Roster OK!\r\n";
+  return block;
 }
 
 RosterReport CheckRosters(LeagueState& s) {

@@ -8,13 +8,14 @@
 
 namespace kvl {
 
-// One team's line of the report: its name and each shortage, or "- Roster OK!".
+// Each team's lines of the report: its name, then each shortage, or "- Roster
+// OK!", every line ending in CR LF.
 struct RosterReport {
   std::vector<std::string> lines;
   bool allValid = true;
 };
 
-// Counts the healthy players of team `t` (loaded into side 0) and composes its line.
+// Counts the fit players of team `t` (loaded into side 0) and composes its lines.
 std::string RosterLine(LeagueState& s, int t, bool& ok);
 RosterReport CheckRosters(LeagueState& s);
 // Runs the roster check with its messages and InvalidRosters.txt, then the coach
