@@ -106,7 +106,9 @@ void CheckTeamCoach(LeagueState& s, int t, const std::vector<Coach>& coaches) {
   std::string teamName = team.Name.str();
   const Coach* held = team.CoachRec < coaches.size() ? &coaches[team.CoachRec] : nullptr;
   bool sameName = held && held->Name == team.Coach.Name;
-  if (sameName && held->Team == t + 1) return;
+  // A record that names no team is not another team's coach: the link stands.
+  bool otherTeams = held && held->Team != Coach::kNoTeam && held->Team != t + 1;
+  if (sameName && !otherTeams) return;
   if (!sameName) {
     s.ui.tell("Team Files say " + teamName + " coach is " + team.Coach.Name.str() + "\n" +
                   fmt::format("However, coach record #{} is held by {}\n", team.CoachRec,

@@ -143,6 +143,7 @@ INSTANTIATE_TEST_SUITE_P(
     Links, CoachCheckCases,
     ::testing::Values(
         CoachCase{"AllSound", [](LeagueSpec&) {}, {}, 5},
+        CoachCase{"FreeCoachStillLinked", [](LeagueSpec& s) { s.coaches[4].Team = Coach::kNoTeam; }, {}, 5},
         CoachCase{"LastTeamIsNoBrokenLink", [](LeagueSpec& s) { s.teams[7].CoachRec = 0; s.coaches[7].Team = 8; }, {},
                   5},
         CoachCase{"RelinkedByName",
