@@ -1,0 +1,274 @@
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "season/schedule_alignment.h"
+#include "season/schedule_allot.h"
+#include "support/league_fixture.h"
+#include "support/schedule_leagues.h"
+
+namespace kvl {
+namespace {
+
+using test::Alignment;
+
+const Alignment kDemo{{6, 6}, {6, 6}};
+
+struct Allotted {
+  bool ok = false;
+  ScheduleMatrices m;
+  std::vector<std::string> log;
+};
+
+std::vector<std::string> LogLines(const fs::path& file) {
+  std::ifstream in(file, std::ios::binary);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(in, line);) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+// Allots with the given minimums; GPTeam is the suggestion unless given.
+Allotted Allot(const Alignment& a, int vsDiv, int vsConf, int vsLg, int gpTeam = 0) {
+  test::Harness h;
+  test::AlignInMemory(h.state, a);
+  ScheduleParams p = DefaultScheduleParams(h.state.numTeams());
+  p.vsDiv = vsDiv;
+  p.vsConf = vsConf;
+  p.vsLg = vsLg;
+  p.GPTeam = gpTeam ? gpTeam : *SuggestedGamesPerTeam(h.state, vsDiv, vsConf, vsLg);
+  Allotted r;
+  AllotGameLog log(h.home, h.clock.now());
+  r.ok = AllotGames(h.state, p, r.m, log);
+  r.log = LogLines(log.path());
+  return r;
+}
+
+int Relation(const LeagueState& s, int a, int b, int vsDiv, int vsConf, int vsLg) {
+  if (s.team(a).Conf != s.team(b).Conf) return vsLg;
+  return s.team(a).Div == s.team(b).Div ? vsDiv : vsConf;
+}
+
+struct MinimumsCase {
+  int vsDiv, vsConf, vsLg, gamesPerTeam;
+};
+
+class BalancedAllotment : public ::testing::TestWithParam<MinimumsCase> {};
+
+// In a balanced league at the suggested total every pair meets exactly as the
+// minimums ask, split evenly, and no top-up game is needed.
+TEST_P(BalancedAllotment, EveryPairMeetsAsTheMinimumsAsk) {
+  const MinimumsCase& c = GetParam();
+  test::Harness h;
+  test::AlignInMemory(h.state, kDemo);
+  ASSERT_EQ(*SuggestedGamesPerTeam(h.state, c.vsDiv, c.vsConf, c.vsLg), c.gamesPerTeam);
+  Allotted r = Allot(kDemo, c.vsDiv, c.vsConf, c.vsLg);
+  ASSERT_TRUE(r.ok);
+  for (int a = 0; a < 24; ++a) {
+    EXPECT_EQ(r.m.TotalGP[a], c.gamesPerTeam);
+    EXPECT_EQ(r.m.HomeGP[a], c.gamesPerTeam / 2);
+    for (int b = 0; b < 24; ++b) {
+      if (a == b) continue;
+      int games = Relation(h.state, a, b, c.vsDiv, c.vsConf, c.vsLg);
+      EXPECT_EQ(r.m.Matchups(a, b), games) << a << " v " << b;
+      EXPECT_EQ(r.m.HomeMatchups(a, b), games / 2) << a << " hosting " << b;
+      EXPECT_FALSE(r.m.ExtraGame(a, b));
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Minimums, BalancedAllotment,
+                         ::testing::Values(MinimumsCase{6, 2, 2, 66}, MinimumsCase{4, 4, 2, 68},
+                                           MinimumsCase{2, 0, 0, 10}, MinimumsCase{8, 2, 0, 52}));
+
+// Each pair's two hosted counts must add up to its games, or placement cannot
+// use them all up.
+int PairsOutOfStep(const Allotted& r, int n) {
+  int bad = 0;
+  for (int a = 0; a < n; ++a)
+    for (int b = a + 1; b < n; ++b)
+      if (r.m.HomeMatchups(a, b) + r.m.HomeMatchups(b, a) != r.m.Matchups(a, b)) ++bad;
+  return bad;
+}
+
+TEST(Allotment, OddDivisionCountSplitsEachPairBetweenItsTwoHosts) {
+  Allotted r = Allot(kDemo, 5, 2, 2);
+  ASSERT_TRUE(r.ok);
+  EXPECT_EQ(PairsOutOfStep(r, 24), 0);
+  for (int a = 0; a < 24; ++a) EXPECT_EQ(r.m.HomeGP[a], 31);
+}
+
+// The inter-conference parity runs on across the whole order, so an odd count of
+// such games splits evenly only when the first conference has an even number of
+// teams; otherwise every inter-conference pair is out of step.
+TEST(Allotment, OddInterConferenceCountNeedsAnEvenFirstConference) {
+  Allotted even = Allot(kDemo, 6, 2, 3);
+  EXPECT_EQ(PairsOutOfStep(even, 24), 0);
+  Allotted odd = Allot({{6, 5}, {6, 6}}, 6, 2, 3);
+  EXPECT_EQ(PairsOutOfStep(odd, 23), 11 * 12);
+}
+
+TEST(Allotment, HalfOfAnOddTotalGoesToTheEvenNeighbour) {
+  struct Case {
+    int gp, half;
+  };
+  for (Case c : {Case{81, 40}, Case{83, 42}, Case{82, 41}, Case{66, 33}, Case{1, 0}, Case{3, 2}})
+    EXPECT_EQ(HalfGamesPerTeam(c.gp), c.half) << c.gp;
+}
+
+TEST(Allotment, ToggleFlipsZeroAndOne) {
+  EXPECT_EQ(Toggle(0), 1);
+  EXPECT_EQ(Toggle(1), 0);
+}
+
+// Two games above the minimum: one more home game each. Partners are taken from
+// the end of the allotment order, each once, until none is left.
+TEST(Allotment, TopUpTakesPartnersFromTheEndOfTheOrderOnce) {
+  Allotted r = Allot(kDemo, 6, 2, 2, 68);
+  ASSERT_TRUE(r.ok);
+  auto at = [&](int place) { return static_cast<int>(r.m.AllotOrder[place]); };
+  for (int i = 0; i < 12; ++i) {
+    EXPECT_TRUE(r.m.ExtraGame(at(i), at(23 - i))) << "place " << i;
+    EXPECT_EQ(r.m.HomeMatchups(at(i), at(23 - i)), 2) << "place " << i;
+  }
+  // Place 12 already has a top-up game with place 11, so it takes place 10;
+  // place 13 then finds places 12 and below full up to 11.
+  EXPECT_EQ(r.m.HomeMatchups(at(12), at(10)), 2);
+  EXPECT_EQ(r.m.HomeMatchups(at(12), at(11)), 1);
+  EXPECT_EQ(r.m.HomeMatchups(at(13), at(11)), 2);
+  for (int t = 0; t < 24; ++t) EXPECT_EQ(r.m.HomeGP[t], 34);
+}
+
+TEST(Allotment, OrderRunsByConferenceDivisionAndTeamNumber) {
+  Allotted r = Allot(kDemo, 6, 2, 2);
+  // Teams are dealt round the four divisions: 0, 4, 8 ... share the first.
+  std::vector<int> order(r.m.AllotOrder.cells.begin(), r.m.AllotOrder.cells.begin() + 24);
+  std::vector<int> expected;
+  for (int group = 0; group < 4; ++group)
+    for (int t = group; t < 24; t += 4) expected.push_back(t);
+  EXPECT_EQ(order, expected);
+}
+
+// Below the minimum a team already has more home games than half the total;
+// the top-up cannot take games away and runs out of partners.
+TEST(Allotment, TotalBelowTheMinimumsFails) {
+  Allotted r = Allot(kDemo, 6, 2, 2, 60);
+  EXPECT_FALSE(r.ok);
+  ASSERT_FALSE(r.log.empty());
+  EXPECT_EQ(r.log.back(), "Requested games allocated for all teams.");
+}
+
+TEST(Allotment, TeamWithoutConferenceFailsAtOnce) {
+  test::Harness h;
+  test::AlignInMemory(h.state, kDemo);
+  h.state.team(3).Conf = kNoConference;
+  ScheduleParams p = DefaultScheduleParams(24);
+  p.GPTeam = 66;
+  ScheduleMatrices m;
+  AllotGameLog log(h.home, h.clock.now());
+  EXPECT_FALSE(AllotGames(h.state, p, m, log));
+  std::vector<std::string> lines = LogLines(log.path());
+  ASSERT_EQ(lines.size(), 5u);  // date, heading, teams 0 to 2
+  EXPECT_EQ(lines.back().substr(0, 10), "Team2     ");
+}
+
+TEST(AllotmentLog, ReadsAsTheAllotmentWentInOrdinaryUse) {
+  Allotted r = Allot({{2, 2}, {2, 2}}, 6, 2, 2);
+  ASSERT_TRUE(r.ok);
+  std::vector<std::string> head(r.log.begin(), r.log.begin() + 18);
+  std::vector<std::string> expected{
+      "Tuesday, December 9, 2025",
+      "Checking for all teams assigned to a division.",
+      "Team0      are in CONF 1       Conference DIV 1      Division.",
+      "Team1      are in CONF 1       Conference DIV 2      Division.",
+      "Team2      are in CONF 2       Conference DIV 1      Division.",
+      "Team3      are in CONF 2       Conference DIV 2      Division.",
+      "Team4      are in CONF 1       Conference DIV 1      Division.",
+      "Team5      are in CONF 1       Conference DIV 2      Division.",
+      "Team6      are in CONF 2       Conference DIV 1      Division.",
+      "Team7      are in CONF 2       Conference DIV 2      Division.",
+      "Checking for most and least teams in each division.",
+      "Teams in (0,0)DIV 1     : 2",
+      "Teams in (0,1)DIV 2     : 2",
+      "Teams in (1,0)DIV 1     : 2",
+      "Teams in (1,1)DIV 2     : 2",
+      "Most teams in a division is 2.",
+      "Fewest teams in a division is 2.",
+      "Alotting out of conference games.",
+  };
+  EXPECT_EQ(head, expected);
+  // Team 0 first: its division mate is team 4, six games, three at home.
+  EXPECT_EQ(r.log[18], "Alotting out of division games.");
+  EXPECT_EQ(r.log[19], "Alotting divisional games.");
+  EXPECT_EQ(r.log[20], "Team0      c0d0 plays Team4      c0d0 6 times, 3 times at home.");
+  EXPECT_EQ(r.log.back(), "Requested games allocated for all teams.");
+  EXPECT_EQ(r.log.size(), 18u + 8 * 4 - 1 + 1);
+}
+
+struct SuggestCase {
+  Alignment a;
+  int vsDiv, vsConf, vsLg, expected;
+};
+
+TEST(SuggestGamesPerTeam, CountsByTheLargestDivisionAndConference) {
+  std::vector<SuggestCase> cases{
+      {kDemo, 6, 2, 2, 66},
+      {{{5, 5, 5}, {5, 5, 5}}, 6, 2, 2, 74},
+      // 13 against 12: the larger conference stands for the other as well.
+      {{{7, 6}, {6, 6}}, 6, 2, 2, 74},
+      // An odd total is raised to the next even number.
+      {kDemo, 5, 2, 2, 62},
+      // The byte sum stops at 254.
+      {{{7, 6, 6, 6}, {7, 6, 6, 6}}, 16, 10, 10, 254},
+  };
+  for (const auto& c : cases) {
+    test::Harness h;
+    test::AlignInMemory(h.state, c.a);
+    EXPECT_EQ(SuggestedGamesPerTeam(h.state, c.vsDiv, c.vsConf, c.vsLg), c.expected) << test::TeamCount(c.a);
+  }
+}
+
+TEST(CheckAlignmentBalance, AllowsOneTeamOfDifference) {
+  struct Case {
+    Alignment a;
+    bool balanced;
+  };
+  std::vector<Case> cases{
+      {kDemo, true},
+      {{{7, 6}, {6, 6}}, true},
+      {{{7, 7}, {6, 6}}, false},  // conferences 14 and 12
+      {{{7, 5}, {6, 6}}, false},  // divisions 7 and 5
+      {{{6, 6, 0}, {6, 6}}, false},  // an empty third division counts
+      {{{5, 5, 5}, {5, 5, 5}}, true},
+  };
+  for (const auto& c : cases) {
+    test::Harness h;
+    test::AlignInMemory(h.state, c.a);
+    EXPECT_EQ(CheckAlignmentBalance(h.state), c.balanced) << test::TeamCount(c.a);
+  }
+}
+
+TEST(ScheduleParams, DefaultsAndReachFollowTheLeagueSize) {
+  struct Case {
+    int n, gpDay, variance;
+    ParamRange gpDayRange, varianceRange;
+  };
+  for (Case c : {Case{24, 4, 6, {1, 11}, {0, 11}}, Case{8, 1, 2, {-1, 3}, {0, 3}}, Case{30, 6, 7, {2, 14}, {0, 14}},
+                 Case{25, 5, 6, {1, 11}, {0, 11}}}) {
+    ScheduleParams p = DefaultScheduleParams(c.n);
+    EXPECT_EQ(p.GPDay, c.gpDay) << c.n;
+    EXPECT_EQ(p.Variance, c.variance) << c.n;
+    ParamRange day = RangeOf(ScheduleParam::GPDay, c.n, 66), var = RangeOf(ScheduleParam::Variance, c.n, 66);
+    EXPECT_EQ(std::pair(day.lo, day.hi), std::pair(c.gpDayRange.lo, c.gpDayRange.hi)) << c.n;
+    EXPECT_EQ(std::pair(var.lo, var.hi), std::pair(c.varianceRange.lo, c.varianceRange.hi)) << c.n;
+  }
+  ScheduleParams p = DefaultScheduleParams(24);
+  EXPECT_EQ(std::tuple(p.vsDiv, p.vsConf, p.vsLg, p.VarTotalGP, p.VarHomeGP), std::tuple(6, 2, 2, 5, 4));
+  ParamRange gp = RangeOf(ScheduleParam::GPTeam, 24, 66);
+  EXPECT_EQ(std::pair(gp.lo, gp.hi), std::pair(66, 110));
+}
+
+}  // namespace
+}  // namespace kvl

@@ -1,0 +1,23 @@
+#pragma once
+// Leagues of any alignment for the schedule tests.
+#include <vector>
+
+#include "support/league_fixture.h"
+
+namespace kvl::test {
+
+// Division sizes per conference: {{6, 6}, {6, 6}} is two conferences of two
+// divisions of six. Teams are dealt round the divisions in turn, so division
+// mates have scattered numbers.
+using Alignment = std::vector<std::vector<int>>;
+
+// Sets the header's conferences and divisions and each team's Conf and Div.
+void ApplyAlignment(League& header, std::vector<Team>& teams, const Alignment& a);
+// The same on a league held in memory only (enough for the allotment).
+void AlignInMemory(LeagueState& s, const Alignment& a);
+// A StandardLeague of the alignment's size, realigned.
+LeagueSpec AlignedLeague(const Alignment& a, unsigned seed = 1);
+
+int TeamCount(const Alignment& a);
+
+}  // namespace kvl::test
