@@ -1,0 +1,258 @@
+#include <gtest/gtest.h>
+
+#include "league/league_files.h"
+#include "season/schedule_allot.h"
+#include "season/schedule_file.h"
+#include "season/schedule_form.h"
+#include "support/league_fixture.h"
+#include "support/schedule_checker.h"
+#include "support/schedule_leagues.h"
+#include "util/record_file.h"
+
+namespace kvl {
+namespace {
+
+using test::Alignment;
+
+const Alignment kDemo{{6, 6}, {6, 6}};
+
+struct FormLeague {
+  explicit FormLeague(const Alignment& a = kDemo) {
+    path = h.load(test::AlignedLeague(a));
+    h.state.rnd.setMasterSeed(11);
+  }
+  // Presses until a schedule is made (each press draws anew); the outcome of the last press.
+  ScheduleOutcome pressUntilMade(ScheduleForm& form, int presses = 40) {
+    ScheduleOutcome last = ScheduleOutcome::Refused;
+    for (int i = 0; i < presses; ++i) {
+      last = form.cmdNewSchedule();
+      if (last != ScheduleOutcome::PlacementFailed) break;
+    }
+    return last;
+  }
+  // What the allotment gives for these parameters, made afresh.
+  ScheduleMatrices allotted(const ScheduleParams& p) {
+    ScheduleMatrices m;
+    AllotGameLog log(h.dir.path(), 0);
+    EXPECT_TRUE(AllotGames(h.state, p, m, log));
+    return m;
+  }
+  fs::path scx() const { return h.state.swap(swp::Schedule); }
+  test::Harness h;
+  std::string path;
+};
+
+TEST(NewSchedule, MakesTheAllottedGamesAndResetsTheLeague) {
+  FormLeague lg;
+  loadteam(lg.h.state, 5, 0);
+  lg.h.state.player(0, 0).G = 9;
+  SaveTeam(lg.h.state, 5, 0);
+  ScheduleForm form(lg.h.state);
+  EXPECT_EQ(form.suggested(), 66);
+  ASSERT_EQ(lg.pressUntilMade(form), ScheduleOutcome::Made);
+
+  const League& hd = lg.h.state.league;
+  EXPECT_TRUE(lg.h.ui.told("Schedule is complete", "Make Schedule"));
+  EXPECT_TRUE(test::CheckMadeSchedule(lg.scx(), 24, hd, lg.allotted(form.params())).empty());
+  EXPECT_EQ(hd.LeagueGames, 24 * 66 / 2);
+  EXPECT_NE(hd.ScheduleMade, 0);
+  EXPECT_EQ(hd.NextGameMark, -1);
+  EXPECT_EQ(hd.GamesPlayed, 0);
+  EXPECT_TRUE(lg.h.state.Dirty);
+  loadteam(lg.h.state, 5, 0);
+  EXPECT_EQ(lg.h.state.player(0, 0).G, 0) << "ResetLeague ran";
+  EXPECT_TRUE(fs::exists(lg.h.home / "AllotGameLog.txt"));
+}
+
+// Read by offsets alone: in the demo league at the defaults division rivals
+// meet 6 times, all others twice, and every pair splits its games evenly.
+TEST(NewSchedule, DemoLeagueFileSplitsEveryPairEvenly) {
+  FormLeague lg;
+  ScheduleForm form(lg.h.state);
+  ASSERT_EQ(lg.pressUntilMade(form), ScheduleOutcome::Made);
+  test::ScheduleFileFacts f = test::ReadScheduleFacts(lg.scx(), 24);
+  EXPECT_EQ(f.records, 792u);
+  EXPECT_TRUE(f.numberedFromOne);
+  EXPECT_TRUE(f.freshRecords);
+  for (int a = 0; a < 24; ++a)
+    for (int b = 0; b < 24; ++b) {
+      if (a == b) continue;
+      int games = a % 4 == b % 4 ? 6 : 2;  // teams are dealt round the four divisions
+      EXPECT_EQ(f.games[a][b], games) << a << " v " << b;
+      EXPECT_EQ(f.hosted[a][b], games / 2) << a << " hosting " << b;
+    }
+}
+
+TEST(NewSchedule, TopUpGamesArePlacedToo) {
+  FormLeague lg({{5, 5, 5}, {5, 5, 5}});
+  ScheduleForm form(lg.h.state);
+  ASSERT_EQ(form.suggested(), 74);
+  form.setParam(ScheduleParam::GPTeam, 82);
+  ASSERT_EQ(lg.pressUntilMade(form, 100), ScheduleOutcome::Made);
+  EXPECT_EQ(lg.h.state.league.LeagueGames, 30 * 41);
+  auto faults = test::CheckMadeSchedule(lg.scx(), 30, lg.h.state.league, lg.allotted(form.params()));
+  EXPECT_TRUE(faults.empty()) << faults.front();
+}
+
+TEST(NewSchedule, KeepsAnOldScdAsScdold) {
+  FormLeague lg;
+  Bytes old(4642, 0);
+  old[0] = 7;
+  WriteFileAtomic(lg.path + ".scd", old);
+  ScheduleForm form(lg.h.state);
+  ASSERT_EQ(lg.pressUntilMade(form), ScheduleOutcome::Made);
+  EXPECT_FALSE(fs::exists(lg.path + ".scd"));
+  EXPECT_EQ(ReadFileBytes(lg.path + ".scdold"), old);
+}
+
+TEST(NewSchedule, RefusesAnUnbalancedLeagueBeforeAnything) {
+  FormLeague lg({{7, 7}, {6, 6}});
+  ScheduleForm form(lg.h.state);
+  League before = lg.h.state.league;
+  EXPECT_EQ(form.cmdNewSchedule(), ScheduleOutcome::Refused);
+  EXPECT_TRUE(lg.h.ui.told(
+      "Your league is currently unbalanced. The variance of teams per conference or division should not be larger "
+      "than one. You can correct this by using the League|Align League option and adding or removing one team.",
+      "Make Schedule"));
+  EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before));
+  EXPECT_FALSE(fs::exists(lg.h.home / "AllotGameLog.txt"));
+}
+
+TEST(NewSchedule, AsksBeforeReplacingASchedule) {
+  FormLeague lg;
+  lg.h.state.league.ScheduleMade = kTrue;
+  lg.h.ui.push("no");
+  ScheduleForm form(lg.h.state);
+  EXPECT_EQ(form.cmdNewSchedule(), ScheduleOutcome::Refused);
+  auto asks = lg.h.ui.callsOf("ask");
+  ASSERT_EQ(asks.size(), 1u);
+  EXPECT_EQ(asks[0].text,
+            "This will reset the current league. All schedule information and accumulated stats will be lost. "
+            "Continue?");
+  EXPECT_EQ(asks[0].title, "Make Schedule");
+  EXPECT_FALSE(fs::exists(lg.h.home / "AllotGameLog.txt"));
+}
+
+TEST(NewSchedule, AllotmentFailureChangesNothing) {
+  FormLeague lg;
+  Bytes schedule(31, 1);
+  WriteFileAtomic(lg.scx(), schedule);
+  lg.h.state.league.GamesPlayed = 12;
+  League before = lg.h.state.league;
+  ScheduleForm form(lg.h.state);
+  form.setParam(ScheduleParam::GPTeam, 60);
+  EXPECT_EQ(form.cmdNewSchedule(), ScheduleOutcome::AllotFailed);
+  EXPECT_TRUE(lg.h.ui.told("Attempt to allot a set of games failed. \n"
+                           "This usually occurs when you have odd-numbered matchups, or asymmetric league alignments.\n"
+                           "Please try a different set of schedule parameters and/or more symmetric league alignment.",
+                           "Game Allotment Failed"));
+  EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before));
+  EXPECT_EQ(ReadFileBytes(lg.scx()), schedule);
+}
+
+// 9 teams at 29 games make 130.5 games in all: the count never meets that, and
+// the days run dry.
+TEST(NewSchedule, FractionalTotalEndsUnableToPlace) {
+  FormLeague lg({{3, 2}, {2, 2}});
+  League before = lg.h.state.league;
+  ScheduleForm form(lg.h.state);
+  form.setParam(ScheduleParam::GPTeam, form.suggested() + 3);
+  ScheduleOutcome out = form.cmdNewSchedule();
+  ASSERT_EQ(out, ScheduleOutcome::PlacementFailed);
+  auto tells = lg.h.ui.callsOf("tell");
+  ASSERT_FALSE(tells.empty());
+  EXPECT_EQ(tells.back().title, "Make Schedule Error");
+  EXPECT_EQ(tells.back().text.rfind("Scheduler is unable to place game ", 0), 0u);
+  EXPECT_NE(tells.back().text.find(" in a game day without conflict.\nYou must change your schedule parameters and "
+                                   "try to make a schedule again."),
+            std::string::npos);
+  EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before));
+}
+
+TEST(EarlierSchedule, NumbersItsDaysAndMakesTheAllottedGames) {
+  FormLeague lg;
+  ScheduleForm form(lg.h.state);
+  form.setParam(ScheduleParam::Variance, 4);  // no draw below 0
+  ScheduleOutcome out = ScheduleOutcome::PlacementFailed;
+  for (int i = 0; i < 40 && out == ScheduleOutcome::PlacementFailed; ++i) out = form.cmdSchedule();
+  ASSERT_EQ(out, ScheduleOutcome::Made);
+  std::vector<ScheduleRecord> games = ReadSchedule(lg.scx());
+  ASSERT_EQ(games.size(), 792u);
+  EXPECT_EQ(games.front().GameDay, 1);
+  for (std::size_t k = 1; k < games.size(); ++k) {
+    EXPECT_GE(games[k].GameDay, games[k - 1].GameDay);
+    EXPECT_EQ(games[k].GameNumber, static_cast<i16>(k + 1));
+  }
+  test::ScheduleFileFacts f = test::ReadScheduleFacts(lg.scx(), 24);
+  ScheduleMatrices m = lg.allotted(form.params());
+  for (int a = 0; a < 24; ++a)
+    for (int b = 0; b < 24; ++b) {
+      EXPECT_EQ(f.games[a][b], m.Matchups(a, b));
+      EXPECT_EQ(f.hosted[a][b], m.HomeMatchups(a, b));
+    }
+  EXPECT_NE(lg.h.state.league.ScheduleMade, 0);
+}
+
+TEST(EarlierSchedule, StallsOnAFractionalTotal) {
+  FormLeague lg({{3, 2}, {2, 2}});
+  ScheduleForm form(lg.h.state);
+  form.setParam(ScheduleParam::GPTeam, form.suggested() + 3);
+  form.setParam(ScheduleParam::Variance, 1);
+  EXPECT_EQ(form.cmdSchedule(), ScheduleOutcome::PlacementFailed);
+  EXPECT_TRUE(lg.h.ui.told("Attempt Failed, Try Again", "Make Schedule"));
+  EXPECT_EQ(lg.h.state.league.ScheduleMade, 0);
+}
+
+// Its day's target was held in a byte: a draw below 0 is a run-time stop.
+TEST(EarlierSchedule, NegativeDrawStops) {
+  FormLeague lg;
+  ScheduleForm form(lg.h.state);
+  form.setParam(ScheduleParam::GPDay, 1);
+  form.setParam(ScheduleParam::Variance, 11);
+  EXPECT_THROW(form.cmdSchedule(), KvlError);
+}
+
+TEST(ScheduleForm, MinimumsRerunTheSuggestion) {
+  FormLeague lg;
+  ScheduleForm form(lg.h.state);
+  form.setParam(ScheduleParam::GPTeam, 80);
+  form.setParam(ScheduleParam::vsDiv, 4);
+  EXPECT_EQ(form.params().GPTeam, 56);
+  form.setParam(ScheduleParam::GPDay, 7);
+  EXPECT_EQ(form.params().GPTeam, 56);
+  form.chkExhibition(true);
+  EXPECT_EQ(lg.h.state.league.Exhibition, kTrue);
+  form.chkExhibition(false);
+  EXPECT_EQ(lg.h.state.league.Exhibition, kFalse);
+}
+
+TEST(ScheduleForm, TellsWhenATeamHasNoDivision) {
+  FormLeague lg;
+  lg.h.state.team(4).Conf = 255;
+  ScheduleForm form(lg.h.state);
+  EXPECT_TRUE(lg.h.ui.told("Assign all teams to divisions first", "Make Schedule"));
+}
+
+TEST(ScheduleFormMayOpen, RefusesSmallLeaguesAndUnstockedExpansionTeams) {
+  {
+    test::Harness h;
+    h.load(test::StandardLeague(7));
+    EXPECT_FALSE(ScheduleFormMayOpen(h.state));
+    EXPECT_TRUE(h.ui.told("Not enough teams in league", "Make Schedule"));
+  }
+  test::LeagueSpec spec = test::StandardLeague(8);
+  spec.teams[6].Expansion = 1;
+  spec.rosters[6].resize(19);
+  test::Harness h;
+  h.load(spec);
+  EXPECT_FALSE(ScheduleFormMayOpen(h.state));
+  EXPECT_TRUE(h.ui.told("Must assign players to expansion teams", "Make Schedule"));
+  h.state.league.ExpansionDraftOn = kTrue;
+  EXPECT_TRUE(ScheduleFormMayOpen(h.state)) << "the draft is still stocking it";
+  h.state.league.ExpansionDraftOn = kFalse;
+  h.state.team(6).Expansion = 0;
+  EXPECT_TRUE(ScheduleFormMayOpen(h.state));
+}
+
+}  // namespace
+}  // namespace kvl

@@ -1,0 +1,223 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "season/schedule_alignment.h"
+#include "season/schedule_allot.h"
+#include "season/schedule_file.h"
+#include "season/schedule_place.h"
+#include "support/league_fixture.h"
+#include "support/schedule_leagues.h"
+
+namespace kvl {
+namespace {
+
+TEST(PickDayGames, DrawsAroundTheTargetWithItsQuirks) {
+  struct Case {
+    int gpDay, variance, n;
+    double r;
+    int target;
+    const char* why;
+  };
+  std::vector<Case> cases{
+      {4, 6, 24, 0.0, 1, "a draw below 1 is raised to 1"},
+      {4, 6, 24, 0.5, 4, "the middle of the spread is the target"},
+      {4, 6, 24, 0.999, 9, "the top of the spread"},
+      {11, 6, 24, 0.99, 12, "more than half the league is cut to half"},
+      {-1, 0, 8, 0.3, 1, "a target set below 1 still gives 1"},
+      {20, 0, 44, 0.0, 0, "20 becomes 0"},
+      {21, 0, 44, 0.0, 1, "21 becomes 1"},
+      {24, 0, 50, 0.0, 4, "above 20 wraps round"},
+  };
+  for (const Case& c : cases) EXPECT_EQ(PickDayGames(c.gpDay, c.variance, c.n, c.r), c.target) << c.why;
+}
+
+// Placement on hand-made matrices, the records kept in memory.
+struct Placement {
+  explicit Placement(int n, int gpDay = 2, int variance = 0) : n(n) {
+    p.GPDay = gpDay;
+    p.Variance = variance;
+    p.GPTeam = 100;
+  }
+  // Every pair meets twice, once at each end.
+  void allPairs() {
+    for (int a = 0; a < n; ++a)
+      for (int b = 0; b < n; ++b)
+        if (a != b) m.Matchups(a, b) = 2, m.HomeMatchups(a, b) = 1;
+  }
+  void game(int home, int away) {
+    ++m.Matchups(home, away);
+    ++m.Matchups(away, home);
+    ++m.HomeMatchups(home, away);
+  }
+  GameDayMaker& maker() {
+    if (!made) {
+      made.emplace(m, p, n, rnd, gamesPlayed, [this](int number, const ScheduleRecord& r) {
+        EXPECT_EQ(static_cast<std::size_t>(number), records.size() + 1);
+        records.push_back(r);
+      });
+      made->Start();
+    }
+    return *made;
+  }
+  int n;
+  ScheduleParams p;
+  ScheduleMatrices m;
+  Rnd rnd{7};
+  i16 gamesPlayed = 0;
+  std::vector<ScheduleRecord> records;
+  std::optional<GameDayMaker> made;
+};
+
+TEST(MakeGameDay, EndsWhenTheRunningCountMeetsTheDraw) {
+  struct Case {
+    int gpDay, games;
+    const char* why;
+  };
+  // 44 teams, all free: pairs go 0-1, 2-3, ...; teams 42 and 43 hold the last
+  // places of both orders and never meet, so at most 21 games fit.
+  for (Case c : {Case{19, 19, "the draw is met"}, Case{20, 21, "a draw of 20 is 0: the day runs until nothing fits"},
+                 Case{21, 1, "a draw of 21 is 1"}}) {
+    Placement pl(44, c.gpDay);
+    pl.allPairs();
+    EXPECT_EQ(pl.maker().MakeGameDay(), c.games) << c.why;
+  }
+}
+
+TEST(MakeGameDay, NeverOffersTheLastPlaceOfEitherOrder) {
+  struct Case {
+    int home, away, placed;
+    const char* why;
+  };
+  // With nothing played the orders are by team number: 3 is last in both.
+  for (Case c : {Case{1, 2, 1, "an ordinary game"}, Case{3, 2, 0, "the last home place never hosts"},
+                 Case{2, 3, 0, "the last total place is never the opponent"}}) {
+    Placement pl(4);
+    pl.game(c.home, c.away);
+    EXPECT_EQ(pl.maker().MakeGameDay(), c.placed) << c.why;
+  }
+}
+
+TEST(MakeGameDay, PlacesTheTeamsBehindFirst) {
+  Placement pl(6, 1);
+  pl.allPairs();
+  GameDayMaker& mk = pl.maker();
+  pl.m.TotalGP[0] = 3;
+  pl.m.HomeGP[0] = 2;
+  pl.m.TotalGP[1] = 1;
+  pl.m.HomeGP[1] = 1;
+  ASSERT_EQ(mk.MakeGameDay(), 1);
+  // Home order 2 3 4 5 1 0, total order 2 3 4 5 1 0: 2 hosts, 3 visits.
+  EXPECT_EQ(pl.records[0].HomeTeam, 2);
+  EXPECT_EQ(pl.records[0].AwayTeam, 3);
+}
+
+TEST(UpdateSpreads, SortsByCountThenTeamNumberAndKeepsTheLastAtEachExtreme) {
+  Placement pl(5);
+  GameDayMaker& mk = pl.maker();
+  const int totals[] = {3, 1, 3, 0, 1};
+  const int homes[] = {1, 0, 2, 0, 1};
+  for (int t = 0; t < 5; ++t) pl.m.TotalGP[t] = static_cast<i16>(totals[t]), pl.m.HomeGP[t] = static_cast<i16>(homes[t]);
+  mk.UpdateSpreads();
+  std::vector<int> byTotal, byHome;
+  for (int i = 0; i < 5; ++i) byTotal.push_back(mk.OrderByTotal()[i]), byHome.push_back(mk.OrderByHome()[i]);
+  EXPECT_EQ(byTotal, (std::vector<int>{3, 1, 4, 0, 2}));
+  EXPECT_EQ(byHome, (std::vector<int>{1, 3, 0, 4, 2}));
+  const Spreads& s = mk.spreads();
+  EXPECT_EQ(std::tuple(s.MinTotalGP, s.MinTotalTeam, s.MaxTotalGP, s.MaxTotalTeam), std::tuple(0, 3, 3, 2));
+  EXPECT_EQ(std::tuple(s.MinHomeGP, s.MinHomeTeam, s.MaxHomeGP, s.MaxHomeTeam), std::tuple(0, 3, 2, 2));
+  EXPECT_EQ(mk.HomeCandidate(3), 4);
+  EXPECT_EQ(mk.HomeCandidate(4), -1);
+  EXPECT_EQ(mk.OpponentCandidate(0, 1), 3);
+  EXPECT_EQ(mk.OpponentCandidate(4, 1), -2);
+  EXPECT_EQ(mk.OpponentCandidate(0, -1), -1);
+}
+
+TEST(GamePlaceable, NeedsAGameLeftAtThatHostAndTwoFreeTeams) {
+  Placement pl(4);
+  pl.game(1, 0);
+  pl.m.Matchups(2, 3) = 1;  // a game without a host
+  GameDayMaker& mk = pl.maker();
+  EXPECT_TRUE(mk.GamePlaceable(0, 1));
+  EXPECT_FALSE(mk.GamePlaceable(1, 0)) << "0 hosts nothing against 1";
+  EXPECT_FALSE(mk.GamePlaceable(3, 2));
+  EXPECT_FALSE(mk.GamePlaceable(1, 1));
+  EXPECT_FALSE(mk.GamePlaceable(-2, 1));
+  mk.PlaceGame(0, 1);
+  EXPECT_FALSE(mk.GamePlaceable(0, 1)) << "used up, and both have played today";
+}
+
+TEST(PlaceGame, BooksTheGameAndWritesItsRecord) {
+  Placement pl(4);
+  pl.game(2, 0);
+  pl.game(2, 0);
+  GameDayMaker& mk = pl.maker();
+  mk.PlaceGame(0, 2);
+  EXPECT_EQ(pl.m.Matchups(0, 2), 1);
+  EXPECT_EQ(pl.m.Matchups(2, 0), 1);
+  EXPECT_EQ(pl.m.HomeMatchups(2, 0), 1);
+  EXPECT_EQ(std::tuple(pl.m.TotalGP[0], pl.m.TotalGP[2], pl.m.HomeGP[2], pl.m.HomeGP[0]), std::tuple(1, 1, 1, 0));
+  EXPECT_EQ(mk.LastHost()(0, 2), 2);
+  EXPECT_EQ(mk.LastHost()(2, 0), 2);
+  EXPECT_EQ(mk.LastHost()(0, 1), kNoHost);
+  EXPECT_TRUE(mk.PlacedToday(0) && mk.PlacedToday(2));
+  ASSERT_EQ(pl.records.size(), 1u);
+  EXPECT_EQ(std::tuple(pl.records[0].HomeTeam, pl.records[0].AwayTeam, pl.records[0].GameNumber), std::tuple(2, 0, 1));
+  EXPECT_EQ(pl.gamesPlayed, 1);
+}
+
+// A whole season placed from the demo league's allotment: each day made has
+// every team at most once, and the games used up are the games allotted.
+TEST(GameDayMaker, PlacesAWholeSeasonWithoutATeamTwiceInADay) {
+  test::Harness h;
+  test::AlignInMemory(h.state, {{6, 6}, {6, 6}});
+  ScheduleParams p = DefaultScheduleParams(24);
+  p.GPTeam = 66;
+  ScheduleMatrices m;
+  AllotGameLog log(h.home, 0);
+  ASSERT_TRUE(AllotGames(h.state, p, m, log));
+  for (std::uint64_t seed = 1; seed < 40; ++seed) {
+    ScheduleMatrices work = m;
+    Rnd rnd(seed);
+    i16 placed = 0;
+    std::vector<ScheduleRecord> games;
+    GameDayMaker mk(work, p, 24, rnd, placed, [&](int, const ScheduleRecord& r) { games.push_back(r); });
+    mk.Start();
+    bool stuck = false;
+    while (placed != 24 * 33 && !stuck) {
+      std::size_t first = games.size();
+      stuck = mk.MakeGameDay() == 0;
+      std::set<int> today;
+      for (std::size_t k = first; k < games.size(); ++k) {
+        EXPECT_TRUE(today.insert(games[k].HomeTeam).second);
+        EXPECT_TRUE(today.insert(games[k].AwayTeam).second);
+      }
+    }
+    if (stuck) continue;
+    for (int a = 0; a < 24; ++a) {
+      EXPECT_EQ(work.TotalGP[a], 66);
+      EXPECT_EQ(work.HomeGP[a], 33);
+      for (int b = 0; b < 24; ++b) EXPECT_EQ(work.Matchups(a, b), 0);
+    }
+    return;
+  }
+  FAIL() << "no seed placed a whole season";
+}
+
+TEST(GameDays, RunUntilATeamComesRoundAgain) {
+  auto game = [](int home, int away) {
+    ScheduleRecord r;
+    r.HomeTeam = static_cast<u8>(home);
+    r.AwayTeam = static_cast<u8>(away);
+    return r;
+  };
+  std::vector<ScheduleRecord> games{game(0, 1), game(2, 3), game(3, 4), game(5, 6), game(6, 0), game(49, 1), game(1, 2)};
+  auto days = GameDays(games);
+  ASSERT_EQ(days.size(), 3u);
+  EXPECT_EQ(days[0], (std::vector<std::size_t>{0, 1}));
+  EXPECT_EQ(days[1], (std::vector<std::size_t>{2, 3}));
+  EXPECT_EQ(days[2], (std::vector<std::size_t>{4})) << "team 49 ends the reading";
+}
+
+}  // namespace
+}  // namespace kvl
