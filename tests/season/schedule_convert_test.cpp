@@ -1,0 +1,117 @@
+#include <gtest/gtest.h>
+
+#include "league/league_files.h"
+#include "season/schedule_file.h"
+#include "support/league_fixture.h"
+#include "util/record_file.h"
+
+namespace kvl {
+namespace {
+
+// Writes an 8-team league with `scd` as its .scd (and `scx` as its .scx when
+// given), then loads it.
+struct OldScheduleLeague {
+  explicit OldScheduleLeague(const Bytes& scd, const Bytes* scx = nullptr) {
+    fs::create_directories(h.dir.path() / "league");
+    path = (h.dir.path() / "league" / "old").string();
+    test::WriteLeague(test::StandardLeague(8), path);
+    WriteFileAtomic(path + ".scd", scd);
+    if (scx) WriteFileAtomic(path + ".scx", *scx);
+    LoadLg(h.state, path);
+  }
+  std::vector<ScheduleRecord> converted() { return ReadSchedule(h.state.swap(swp::Schedule)); }
+  test::Harness h;
+  std::string path;
+};
+
+template <class R>
+Bytes Concat(const std::vector<R>& records, std::size_t padTo = 0) {
+  Bytes out;
+  for (const auto& r : records) {
+    Bytes b = EncodeRecord(r);
+    out.insert(out.end(), b.begin(), b.end());
+  }
+  if (out.size() < padTo) out.resize(padTo, 0);
+  return out;
+}
+
+i16 PlayedMark(u8 hs, u8 as) { return (hs || as) ? kTrue : kFalse; }
+
+// Day fields 100 + n and 200 + n, to see where each goes.
+ScheduleRecord13 Old13(u8 home, u8 away, i16 number, u8 hs = 0, u8 as = 0, u8 ot = 0) {
+  return {home, hs, away, as, number, PlayedMark(hs, as), static_cast<i16>(100 + number),
+          static_cast<i16>(200 + number), ot};
+}
+
+ScheduleRecord6 Old6(u8 home, u8 away, u8 hs = 0, u8 as = 0) { return {home, hs, away, as, PlayedMark(hs, as)}; }
+
+TEST(ConvertSchedCheck, ThirteenByteGamesKeepTheirNumbersAndDays) {
+  // Padded out to the blank block a new league is given.
+  OldScheduleLeague lg(Concat(std::vector{Old13(1, 0, 1, 4, 2), Old13(3, 2, 2, 3, 3, 1), Old13(5, 4, 3, 2, 2)}, 4642));
+  std::vector<ScheduleRecord> g = lg.converted();
+  ASSERT_EQ(g.size(), 3u);
+  EXPECT_EQ(std::tuple(g[0].HomeTeam, g[0].AwayTeam, g[0].HomeScore, g[0].AwayScore), std::tuple(1, 0, 4, 2));
+  EXPECT_EQ(g[0].GameNumber, 1);
+  EXPECT_EQ(g[0].Played, kTrue);
+  EXPECT_EQ(g[0].DayA, 101);
+  EXPECT_EQ(g[0].GameDay, 201);
+  EXPECT_EQ(g[0].Overtime, 0);
+  EXPECT_EQ(g[1].Overtime, 1);  // its own mark
+  EXPECT_EQ(g[2].Overtime, 1);  // a tie that is not 0-0
+  EXPECT_TRUE(lg.h.state.Dirty);
+}
+
+TEST(ConvertSchedCheck, SixByteGamesAreNumberedAndGivenDays) {
+  OldScheduleLeague lg(Concat(std::vector{Old6(0, 1, 3, 3), Old6(2, 3, 1, 0), Old6(1, 4), Old6(5, 6), Old6(0, 2)}));
+  std::vector<ScheduleRecord> g = lg.converted();
+  ASSERT_EQ(g.size(), 5u);
+  // Team 1 comes round again at the third game: a new day starts there.
+  std::vector<int> days, numbers;
+  for (const auto& r : g) {
+    days.push_back(r.GameDay);
+    numbers.push_back(r.GameNumber);
+    EXPECT_EQ(r.DayA, r.GameDay);
+  }
+  EXPECT_EQ(days, (std::vector<int>{1, 1, 2, 2, 2}));
+  EXPECT_EQ(numbers, (std::vector<int>{1, 2, 3, 4, 5}));
+  EXPECT_EQ(g[0].Overtime, 1);
+  EXPECT_EQ(g[1].Overtime, 0);
+  EXPECT_EQ(g[2].Overtime, 0);  // 0-0 is a game not yet played
+  EXPECT_EQ(g[1].Played, kTrue);
+  EXPECT_EQ(g[2].Played, kFalse);
+}
+
+TEST(ConvertSchedCheck, LeavesAloneWhatNeedsNoConversion) {
+  {
+    // The blank block of a new league holds no game.
+    OldScheduleLeague lg(Bytes(4642, 0));
+    EXPECT_FALSE(fs::exists(lg.h.state.swap(swp::Schedule)));
+    EXPECT_FALSE(lg.h.state.Dirty);
+  }
+  {
+    // A league with a current schedule keeps it.
+    ScheduleRecord current;
+    current.HomeTeam = 7;
+    current.AwayTeam = 6;
+    current.GameNumber = 1;
+    Bytes scx = EncodeRecord(current);
+    OldScheduleLeague lg(Concat(std::vector{Old6(0, 1)}), &scx);
+    std::vector<ScheduleRecord> g = lg.converted();
+    ASSERT_EQ(g.size(), 1u);
+    EXPECT_EQ(g[0].HomeTeam, 7);
+  }
+}
+
+TEST(ConvertSchedCheck, TellsOfAnOldScheduleItCannotRead) {
+  // Team 9 is not in an 8-team league under either reading.
+  Bytes junk(26, 9);
+  OldScheduleLeague lg(junk);
+  EXPECT_FALSE(fs::exists(lg.h.state.swap(swp::Schedule)));
+  auto tells = lg.h.ui.callsOf("tell");
+  ASSERT_FALSE(tells.empty());
+  EXPECT_EQ(tells.back().title, "Convert Schedule");
+  EXPECT_NE(tells.back().text.find("old.scd"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace kvl
