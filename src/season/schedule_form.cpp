@@ -36,6 +36,7 @@ ScheduleForm::ScheduleForm(LeagueState& s) : s_(s), p_(DefaultScheduleParams(s.n
 
 bool ScheduleForm::SuggestGamesPerTeam() {
   std::optional<int> gp = SuggestedGamesPerTeam(s_, p_.vsDiv, p_.vsConf, p_.vsLg);
+  aligned_ = gp.has_value();
   if (!gp) {
     s_.ui.tell("Assign all teams to divisions first", kTitle);
     return false;

@@ -40,6 +40,8 @@ class ScheduleForm {
   const ScheduleParams& params() const { return p_; }
   ParamRange range(ScheduleParam which) const;
   int suggested() const { return suggested_; }
+  // False while the last suggestion found a team without a conference.
+  bool aligned() const { return aligned_; }
   const ScheduleMatrices& matrices() const { return m_; }
 
  private:
@@ -58,6 +60,7 @@ class ScheduleForm {
   ScheduleParams p_;
   ScheduleMatrices m_;
   int suggested_ = 0;
+  bool aligned_ = false;
   long progressMax_ = 0;
   League before_;  // the header as it was when the press began
   std::optional<AllotGameLog> log_;
