@@ -97,8 +97,8 @@ void RegisterMakeSchedule(CLI::App& app, Session& s) {
 }
 
 void ReviewSchedule(LeagueState& s, std::optional<int> day) {
-  const MenuEntry* entry = FindEntry(ComputeMenu(s.league, {true, s.Dirty}), "RevSched");
-  if (!entry->enabled) {
+  std::vector<MenuEntry> menu = ComputeMenu(s.league, {true, s.Dirty});
+  if (!FindEntry(menu, "RevSched")->enabled) {
     s.ui.tell("Review Schedule is not available while the playoffs run.", "Review Schedule");
     throw Refused("review schedule");
   }
