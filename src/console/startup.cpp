@@ -101,10 +101,17 @@ std::string FindStartLeague(LeagueState& s) {
 }
 
 void StartUp(LeagueState& s, const std::optional<std::string>& league) {
-  PrepareHomeFolder(s.AppPath);
-  std::string path = league ? fs::absolute(StripLeagueExtension(*league)).lexically_normal().string() : FindStartLeague(s);
-  if (path.empty()) return;
-  LoadLg(s, path);
+  try {
+    PrepareHomeFolder(s.AppPath);
+    std::string path =
+        league ? fs::absolute(StripLeagueExtension(*league)).lexically_normal().string() : FindStartLeague(s);
+    if (!path.empty()) LoadLg(s, path);
+  } catch (const FatalStop&) {
+    throw;  // already told
+  } catch (const std::exception&) {
+    s.ui.tell("An unexpected error occurred in the initialization of KVL.", "Load League");
+    throw;
+  }
 }
 
 }  // namespace kvl
