@@ -10,7 +10,7 @@ void MainConsole::LoadLeague(std::optional<fs::path> chosen) {
   if (s_.Dirty) {
     Answer a = s_.ui.ask("Save Current League?", "Save League", Buttons::YesNoCancel);
     if (a == Answer::Cancel) return;
-    if (a == Answer::Yes) SaveLeague();
+    if (a == Answer::Yes) SaveOrSaveAs();
   }
   if (!chosen) chosen = s_.ui.chooseFile("Load League", "All Files|*.*|KVL League Files|*.lge", s_.AppPath, false);
   if (!chosen) return;
@@ -42,7 +42,10 @@ void MainConsole::RenameLeague(std::optional<std::string> name) {
 
 void MainConsole::Exit() {
   if (!s_.Dirty) return;
-  if (s_.ui.ask("Save League Changes?", "Keep Changes", Buttons::YesNo) != Answer::Yes) return;
+  if (s_.ui.ask("Save League Changes?", "Keep Changes", Buttons::YesNo) == Answer::Yes) SaveOrSaveAs();
+}
+
+void MainConsole::SaveOrSaveAs() {
   if (s_.LeaguePath.empty()) SaveLeagueAs(s_, "");
   else SaveLg(s_);
 }

@@ -23,6 +23,8 @@ class MainConsole {
   void Exit();
 
  private:
+  // SaveLg, or SaveLeagueAs for a league that has no name yet; tells nothing.
+  void SaveOrSaveAs();
   LeagueState& s_;
 };
 
