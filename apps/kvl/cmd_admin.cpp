@@ -1,9 +1,15 @@
 // League creation, the bundled data, unused players, draft picks and the demo.
+#include <fmt/format.h>
+
 #include "admin/league_creation.h"
+#include "console/league_view.h"
 #include "console/main_console.h"
 #include "console/startup.h"
 #include "league/league_files.h"
+#include "league/tables.h"
 #include "session.h"
+#include "transactions/draft_picks.h"
+#include "transactions/unused_players.h"
 #include "util/cp1252.h"
 #include "util/error.h"
 
@@ -23,8 +29,8 @@ void RegisterNew(CLI::App& app, Session& s) {
     if (!o->name.empty()) choice.name = Utf8ToCp1252(o->name);
     if (!CreateLeague(s.state, choice)) throw Refused("no league made");
     if (!o->saveAs.empty()) MainConsole(s.state).SaveAs(fs::absolute(StripLeagueExtension(o->saveAs) + ".lge"));
-    s.ui.print("League \"" + Cp1252ToUtf8(s.state.league.LeagueName.str()) +
-               "\" created with no teams. Add teams with the alignment commands, then fill them with "
+    s.ui.print("League \"" + s.state.league.LeagueName.str() +
+               "\" created with no teams. Add teams with the align commands, then fill them with "
                "assign-unused --auto.\n");
   });
   cmd->add_option("--database", o->database, "the player database (.drs) instead of the file question");
@@ -34,8 +40,9 @@ void RegisterNew(CLI::App& app, Session& s) {
 
 void RegisterMakeDefaultData(CLI::App& app, Session& s) {
   auto dir = std::make_shared<std::string>();
-  AddCommand(app, s, "make-default-data", "Write the bundled default files (default.lge, default.coa, default.drs, inj.dtf) into DIR",
-             false, [&s, dir] {
+  AddCommand(app, s, "make-default-data",
+             "Write the bundled default files (default.lge, default.coa, default.drs, inj.dtf) into DIR", false,
+             [&s, dir] {
                fs::create_directories(*dir);
                WriteDefaultFiles(fs::path(*dir), true);
                s.ui.print("Default files written to " + fs::absolute(*dir).string() + "\n");
@@ -44,11 +51,58 @@ void RegisterMakeDefaultData(CLI::App& app, Session& s) {
       ->required();
 }
 
+struct AssignOptions {
+  std::string team;
+  int record = 0;
+  bool autoFill = false;
+};
+
+std::string UnusedListing(const std::vector<UnusedEntry>& list) {
+  std::string out = fmt::format("{} unused players\n  Rec  Name                   Pos  OV\n", list.size());
+  for (const UnusedEntry& e : list)
+    out += fmt::format("{:>5}  {:<22} {}  {:>2}\n", e.record, e.name, PosName[static_cast<std::size_t>(e.pos)], e.overall);
+  return out;
+}
+
+void RegisterAssignUnused(CLI::App& app, Session& s) {
+  auto o = std::make_shared<AssignOptions>();
+  CLI::App* cmd = AddCommand(
+      app, s, "assign-unused",
+      "List the database players no team holds; with TEAM RECORD give one to a team; with --auto fill every team", true,
+      [&s, o] {
+        UnusedPlayers form(s.state);
+        if (o->autoFill) {
+          form.cmdAuto();
+        } else if (!o->team.empty()) {
+          if (o->record == 0) {
+            s.ui.tell("Name the player by his record number, as the list shows it.", "Assign Unused Players");
+            throw Refused("no record");
+          }
+          if (!form.cmdAdd(ResolveTeam(s.state, o->team), o->record)) throw Refused("not assigned");
+        } else {
+          s.ui.print(UnusedListing(form.list()));
+        }
+      });
+  cmd->add_option("TEAM", o->team, "the team, by number or name");
+  cmd->add_option("RECORD", o->record, "the player's record number in the database");
+  cmd->add_flag("--auto", o->autoFill, "every team takes players in turns until it holds a full club");
+}
+
+void RegisterEditDraftPicks(CLI::App& app, Session& s) {
+  auto team = std::make_shared<std::string>();
+  AddCommand(app, s, "edit-draft-picks", "Show a team's draft picks", true,
+             [&s, team] { s.ui.print(DraftPicksText(s.state, ResolveTeam(s.state, *team))); })
+      ->add_option("TEAM", *team, "the team, by number or name")
+      ->required();
+}
+
 }  // namespace
 
 void RegisterAdminCommands(CLI::App& app, Session& s) {
   RegisterNew(app, s);
   RegisterMakeDefaultData(app, s);
+  RegisterAssignUnused(app, s);
+  RegisterEditDraftPicks(app, s);
 }
 
 }  // namespace kvl

@@ -134,7 +134,10 @@ void SetDefaultAlignment(League& lg) {
   }
 }
 
-void BuildNewLeague(LeagueState& s, const fs::path& db, const std::string& name) {
+}  // namespace
+
+void MakeNewLeague(LeagueState& s, const fs::path& db, const std::string& name) {
+  CheckDatabaseFile(db);
   ClearOldLeague(s);
   CopyDatabase(s, db);
   CopyFileAtomic(s.AppPath / "default.lge", s.swap(swp::League));
@@ -153,21 +156,21 @@ void BuildNewLeague(LeagueState& s, const fs::path& db, const std::string& name)
   s.Dirty = true;
 }
 
-}  // namespace
+void OfferToSave(LeagueState& s) {
+  if (!s.Dirty || s.ui.ask("Save Current League?", "Save League", Buttons::YesNo) != Answer::Yes) return;
+  if (s.LeaguePath.empty()) SaveLeagueAs(s, "");
+  else SaveLg(s);
+}
 
 bool CreateLeague(LeagueState& s, const NewLeagueChoice& choice) {
   if (s.ui.ask("Do you want to create a new league?", "Confirmation", Buttons::YesNo) != Answer::Yes) return false;
-  if (s.Dirty && s.ui.ask("Save Current League?", "Save League", Buttons::YesNo) == Answer::Yes) {
-    if (s.LeaguePath.empty()) SaveLeagueAs(s, "");
-    else SaveLg(s);
-  }
+  OfferToSave(s);
   auto db = ChooseDatabase(s, choice.database);
   if (!db) return false;
   std::optional<std::string> name = choice.name ? choice.name : s.ui.prompt("Name of League", "New League", "");
   if (!name || name->empty()) return false;
   try {
-    CheckDatabaseFile(*db);
-    BuildNewLeague(s, *db, *name);
+    MakeNewLeague(s, *db, *name);
   } catch (const std::exception&) {
     s.ui.tell("Errors in file", "Create New League");
     throw;

@@ -36,5 +36,10 @@ bool CreateLeague(LeagueState& s, const NewLeagueChoice& choice = {});
 
 // Throws KvlError naming `db` when it is missing, empty or not whole records.
 void CheckDatabaseFile(const fs::path& db);
+// The new league itself, without questions: checks `db`, then replaces the
+// open league by the unnamed league `name` made from it.
+void MakeNewLeague(LeagueState& s, const fs::path& db, const std::string& name);
+// With unsaved work, asks "Save Current League?" and saves on yes.
+void OfferToSave(LeagueState& s);
 
 }  // namespace kvl

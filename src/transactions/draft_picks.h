@@ -1,6 +1,8 @@
 #pragma once
 // Draft picks (.dpk): each team's record holds its picks for the next six
 // drafts, entries 1 to 255, each knowing the team it was made for and the owner.
+#include <string>
+
 #include "league/league_state.h"
 
 namespace kvl {
@@ -16,6 +18,9 @@ void MakeDraftPicks(LeagueState& s);
 void SortDraftPicks(LeagueState& s, int team);
 
 DraftPickRecord ReadDraftPicks(LeagueState& s, int team);
+// The team's active picks as the Edit Draft Picks view lists them: the draft
+// (0 the coming one), the round from 1, and the team the pick was made for.
+std::string DraftPicksText(LeagueState& s, int team);
 void WriteDraftPicks(LeagueState& s, int team, const DraftPickRecord& picks);
 
 }  // namespace kvl

@@ -1,0 +1,53 @@
+#include "transactions/database_players.h"
+
+#include <array>
+
+#include "league/league_files.h"
+#include "util/record_file.h"
+
+namespace kvl {
+
+std::vector<DbRecord> ReadDatabase(LeagueState& s) {
+  Bytes all = ReadFileBytes(s.swap(swp::Database));
+  std::vector<DbRecord> out;
+  for (std::size_t at = 0; at + DbRecord::kSize <= all.size(); at += DbRecord::kSize)
+    out.push_back(DecodeRecord<DbRecord>(std::span<const u8>(all).subspan(at, DbRecord::kSize)));
+  return out;
+}
+
+void MarkUsed(LeagueState& s, const std::vector<int>& records) {
+  RecordFile f(s.swap(swp::Database), DbRecord::kSize);
+  const std::array<u8, 2> used{0xff, 0xff};  // DbFlag -1
+  for (int n : records) {
+    Bytes rec = f.get(static_cast<std::size_t>(n));
+    std::copy(used.begin(), used.end(), rec.begin());
+    f.put(static_cast<std::size_t>(n), rec);
+  }
+}
+
+int FirstFreeSlot(const LeagueState& s, int side) {
+  for (int slot = 0; slot < kRosterSlots; ++slot)
+    if (s.player(side, slot).empty()) return slot;
+  return -1;
+}
+
+namespace {
+
+bool NumberTaken(const LeagueState& s, int side, int num) {
+  for (int slot = 0; slot < kRosterSlots; ++slot)
+    if (!s.player(side, slot).empty() && s.player(side, slot).Num == num) return true;
+  return false;
+}
+
+}  // namespace
+
+void PlaceOnRoster(LeagueState& s, int side, int slot, const Player& p, int status) {
+  Player placed = p;
+  placed.Status = static_cast<u8>(status);
+  placed.Condition = 100;
+  for (int tries = 0; tries < 98 && NumberTaken(s, side, placed.Num); ++tries)
+    placed.Num = static_cast<u8>(placed.Num % 98 + 1);
+  s.player(side, slot) = placed;
+}
+
+}  // namespace kvl
