@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "admin/alignment.h"
+#include "admin/options.h"
 #include "console/league_view.h"
 #include "console/menu.h"
 #include "session.h"
@@ -88,9 +89,30 @@ void RegisterAlignStructure(CLI::App* align, Session& s) {
              [&s] { s.ui.print(OpenAlign(s).Listing()); });
 }
 
+// `options` lists every option; `options --set NAME=VALUE ...` changes the
+// controls as typed and applies, then lists what the league now holds.
+void RegisterOptions(CLI::App& app, Session& s) {
+  auto sets = std::make_shared<std::vector<std::string>>();
+  auto* cmd = AddCommand(app, s, "options", "Show the league options, or set some by name and apply them", true, [&s, sets] {
+    Options form(s.state);
+    for (const auto& setting : *sets) {
+      auto eq = setting.find('=');
+      if (eq == std::string::npos) {
+        s.ui.tell("Give each option as NAME=VALUE, such as ShotsLevel=6.", "Options");
+        throw Refused("no value");
+      }
+      form.set(setting.substr(0, eq), setting.substr(eq + 1));
+    }
+    if (!sets->empty()) form.cmdApply();
+    s.ui.print(Options(s.state).Listing());
+  });
+  cmd->add_option("--set", *sets, "NAME=VALUE, e.g. ShotsLevel=6 or OptMoney=on; the names are those the listing shows");
+}
+
 }  // namespace
 
 void RegisterAlignmentCommands(CLI::App& app, Session& s) {
+  RegisterOptions(app, s);
   CLI::App* align = app.add_subcommand("align", "Align the league: add, delete, rename, move teams, divisions, expansion");
   align->require_subcommand(1);
   RegisterAlignEdits(align, s);

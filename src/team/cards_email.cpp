@@ -4,18 +4,13 @@
 #include <fstream>
 
 #include "league/league_files.h"
+#include "util/fixed_text.h"
 #include "util/numbers.h"
 #include "util/record_file.h"
 
 namespace kvl {
 
 namespace {
-
-std::string Trim(const std::string& s) {
-  auto first = s.find_first_not_of(" \t\r\n");
-  if (first == std::string::npos) return "";
-  return s.substr(first, s.find_last_not_of(" \t\r\n") - first + 1);
-}
 
 // `3,"gm@example.org"`; the quotes are optional on reading.
 std::optional<EmailLine> ParseLine(const std::string& raw) {

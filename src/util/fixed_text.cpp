@@ -8,6 +8,12 @@ std::string Condense(std::string_view text) {
   return std::string(text.substr(0, end));
 }
 
+std::string Trim(std::string_view text) {
+  auto first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string_view::npos) return "";
+  return std::string(text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1));
+}
+
 std::string PadCut(std::string_view text, std::size_t width) {
   std::string out(text.substr(0, std::min(width, text.size())));
   out.resize(width, ' ');

@@ -37,6 +37,9 @@ std::string FixedText<N>::str() const {
   return Condense(std::string_view(bytes.data(), N));
 }
 
+// Strips blanks, tabs and line ends at both ends, as typed text is taken.
+std::string Trim(std::string_view text);
+
 // Pads with blanks or cuts to the width.
 std::string PadCut(std::string_view text, std::size_t width);
 
