@@ -1,0 +1,153 @@
+// Coaches: style and salary rules, the list's edits and prompts, hiring and
+// firing.
+#include <gtest/gtest.h>
+
+#include "support/league_fixture.h"
+#include "support/team_files.h"
+#include "team/coach_card.h"
+#include "team/coach_file.h"
+#include "team/coach_hire.h"
+#include "team/coach_list.h"
+#include "team/coach_rules.h"
+
+namespace kvl::test {
+namespace {
+
+TEST(CoachRulesTest, StyleFollowsTheGapBetweenOffenceAndDefence) {
+  struct Case {
+    int of, df, style;
+  } cases[] = {{90, 81, 2}, {90, 80, 0}, {80, 90, 1}, {81, 90, 2}, {70, 70, 2}, {50, 99, 1}};
+  for (auto c : cases) EXPECT_EQ(CoachStyle(c.of, c.df), c.style) << c.of << "/" << c.df;
+}
+
+struct CoachTest : ::testing::Test {
+  Harness h;
+  void SetUp() override {
+    LeagueSpec spec = StandardLeague(4);
+    HireStandardCoaches(spec);
+    spec.teams[3].CoachRec = 0;  // team 3 has no coach; coach 4 is free
+    spec.teams[3].Coach = TeamCoach{};
+    spec.coaches[3].Team = Coach::kNoTeam;
+    h.load(spec);
+  }
+  Coach onFile(std::size_t rec) { return ReadCoaches(h.state).at(rec); }
+};
+
+TEST_F(CoachTest, ListEditsClampAndAreKeptOnlyOnYes) {
+  CoachList list(h.state);
+  list.SetRating(1, kCoachOF, 100);
+  list.SetRating(1, kCoachDF, 49);
+  list.SetRating(1, kCoachEX, 77.4);
+  list.SetSalary(1, 20000000);
+  list.SetSalary(4, 1);
+  EXPECT_EQ(list.coach(1).OF, 99);
+  EXPECT_EQ(list.coach(1).DF, 50);
+  EXPECT_EQ(list.coach(1).EX, 77);
+  EXPECT_EQ(list.coach(1).Salary, 20000000);
+  EXPECT_EQ(h.state.team(0).Coach.Salary, 20000000) << "the employer's copy follows";
+  EXPECT_EQ(list.coach(4).Salary, 100000);
+  EXPECT_EQ(list.SalaryCaption(1), "Salary with Team0:");
+  EXPECT_EQ(list.SalaryCaption(4), "Coach 3 asking:");
+  EXPECT_EQ(onFile(1).OF, 50) << "nothing written before leaving";
+  h.ui.push("yes");
+  list.cmdExit();
+  EXPECT_EQ(h.ui.callsOf("ask").back().text, "Save changes?");
+  EXPECT_EQ(h.ui.callsOf("ask").back().title, "Modified Coach");
+  EXPECT_EQ(onFile(1).OF, 99);
+  EXPECT_EQ(onFile(4).Salary, 100000);
+}
+
+TEST_F(CoachTest, CreatePromptsUntilTheValuesFitAndStoresTheSalaryDoubled) {
+  for (const char* a : {"New Guy", "101", "100", "49", "60", "70", "80", "40000", "50000"}) h.ui.push(a);
+  CoachList list(h.state);
+  h.state.Dirty = false;
+  ASSERT_TRUE(list.cmdCreate());
+  Coach c = onFile(5);
+  EXPECT_EQ(c.Name.raw(), "New Guy               ");
+  EXPECT_EQ(c.OF, 100) << "the prompt admits 100";
+  EXPECT_EQ(c.DF, 60);
+  EXPECT_EQ(c.Salary, 100000);
+  EXPECT_EQ(ShownSalary(c.Salary), 50000);
+  EXPECT_EQ(c.Team, Coach::kNoTeam);
+  EXPECT_TRUE(h.ui.told("New Guy added to coach file", "Coach Added"));
+  EXPECT_TRUE(h.state.Dirty);
+  std::vector<std::string> titles;
+  for (const auto& p : h.ui.callsOf("prompt")) titles.push_back(p.title);
+  EXPECT_EQ(titles, (std::vector<std::string>{"New Coach", "Offensive Rating", "Offensive Rating", "Defensive Rating",
+                                              "Defensive Rating", "Experience Rating", "Leadership Rating", "Salary",
+                                              "Salary"}));
+  EXPECT_EQ(h.ui.callsOf("prompt")[1].text, "Offensive Rating (50-100)");
+  EXPECT_EQ(h.ui.callsOf("prompt")[7].text, "Salary (50000-10000000)");
+}
+
+TEST_F(CoachTest, CancellingAnyCreatePromptDropsTheCoach) {
+  for (const char* a : {"Quitter", "70", "<cancel>"}) h.ui.push(a);
+  CoachList list(h.state);
+  EXPECT_FALSE(list.cmdCreate());
+  EXPECT_EQ(ReadCoaches(h.state).size(), 5u);
+}
+
+TEST_F(CoachTest, DeleteAsksThenBlanksTheRecord) {
+  CoachList list(h.state);
+  h.ui.push("no");
+  EXPECT_FALSE(list.cmdDelete(4));
+  EXPECT_EQ(h.ui.callsOf("ask").back().text, "Delete Coach 3 from coach file?");
+  EXPECT_EQ(h.ui.callsOf("ask").back().title, "Delete Coach");
+  h.ui.push("yes");
+  EXPECT_TRUE(list.cmdDelete(4));
+  EXPECT_TRUE(onFile(4).Name.empty());
+}
+
+TEST_F(CoachTest, HiringIsRefusedFromThePlainListAndForAnEmployedCoach) {
+  CoachList plain(h.state);
+  EXPECT_THROW(plain.cmdSelect(4), Refused);
+  EXPECT_TRUE(h.ui.told("You may only hire and fire coaches from Coach | Rosters | Coach Info", "List Coaches"));
+  CoachList hire(h.state, 3);
+  EXPECT_EQ(hire.caption(), "Hire Coach");
+  EXPECT_THROW(hire.cmdSelect(2), Refused);
+  EXPECT_TRUE(h.ui.told("Coach 1 is already coaching for Team1!\nThey have to fire him first!",
+                        "Coach Already Employed"));
+  EXPECT_EQ(h.state.team(3).CoachRec, 0);
+}
+
+TEST_F(CoachTest, HiringFiresThePresentCoachAndLogsBoth) {
+  CoachList hire(h.state, 0);
+  h.ui.push("yes");
+  ASSERT_TRUE(hire.cmdSelect(4));
+  EXPECT_EQ(h.ui.callsOf("ask").back().text, "Hire Coach 3 to Team0?");
+  const Team& t = h.state.team(0);
+  EXPECT_EQ(t.CoachRec, 4);
+  EXPECT_EQ(t.Coach.Name.str(), "Coach 3");
+  EXPECT_EQ(onFile(4).Team, 1) << "the team's number + 1";
+  EXPECT_EQ(onFile(1).Team, Coach::kNoTeam);
+  EXPECT_EQ(hire.coach(1).Team, Coach::kNoTeam);
+  EXPECT_EQ(TransactionLines(h.state), (std::vector<std::string>{"Team0 fire Head Coach Coach 0<BR><BR>",
+                                                                 "Team0 hire Head Coach Coach 3<BR><BR>"}));
+  EXPECT_TRUE(FireCoach(h.state, 0));
+  EXPECT_EQ(t.CoachRec, 0);
+  EXPECT_EQ(onFile(4).Team, Coach::kNoTeam);
+  EXPECT_FALSE(FireCoach(h.state, 0));
+  EXPECT_EQ(TransactionLines(h.state).size(), 3u);
+}
+
+TEST_F(CoachTest, TheCardShowsTheHalfSalaryAndStoresTheStyle) {
+  CoachList list(h.state);
+  list.SetRating(2, kCoachOF, 90);
+  list.SetRating(2, kCoachDF, 80);
+  h.ui.push("yes");
+  list.cmdExit();
+  CoachCard card = DisplayCoach(h.state, 1);
+  ASSERT_TRUE(card.coach);
+  EXPECT_EQ(card.style, 0);
+  EXPECT_EQ(StoredCoachStyle(h.state.team(1)), 0);
+  EXPECT_NE(CoachCardText(card).find("$150,000"), std::string::npos);
+  h.state.team(2).CoachRec = 101;
+  EXPECT_FALSE(DisplayCoach(h.state, 2).coach);
+  EXPECT_THROW(RefuseCoachEdit(h.state), Refused);
+  EXPECT_TRUE(h.ui.told(
+      "You cannot change coach attributes here.\nHire a new coach or change ratings from Manager | View All Coaches.",
+      "Edit Coach Info"));
+}
+
+}  // namespace
+}  // namespace kvl::test
