@@ -44,6 +44,14 @@ void WriteInvalidRosters(LeagueState& s, const RosterReport& r) {
 
 }  // namespace
 
+std::vector<std::string> RosterShortages(int total, const std::array<int, 5>& byPos) {
+  std::vector<std::string> out;
+  if (total < kNeedPlayers) out.push_back(fmt::format("- only {} of {} players available", total, kNeedPlayers));
+  for (std::size_t pos = 0; pos < kNeeds.size(); ++pos)
+    if (byPos[pos] < kNeeds[pos].count) out.push_back(fmt::format("- only {}{}", byPos[pos], kNeeds[pos].tail));
+  return out;
+}
+
 std::string RosterLine(LeagueState& s, int t, bool& ok) {
   loadteam(s, t, 0);
   int total = 0;
@@ -56,14 +64,9 @@ std::string RosterLine(LeagueState& s, int t, bool& ok) {
   }
   // The name stands in its padded width, as the fixed field prints.
   std::string block = PadCut(s.team(t).Name.str(), 10);
-  ok = true;
-  auto shortage = [&](int n, const std::string& tail) {
-    block += fmt::format("- only {}{}\r\n", n, tail);
-    ok = false;
-  };
-  if (total < kNeedPlayers) shortage(total, fmt::format(" of {} players available", kNeedPlayers));
-  for (std::size_t pos = 0; pos < kNeeds.size(); ++pos)
-    if (byPos[pos] < kNeeds[pos].count) shortage(byPos[pos], kNeeds[pos].tail);
+  std::vector<std::string> shortages = RosterShortages(total, byPos);
+  ok = shortages.empty();
+  for (const auto& line : shortages) block += line + "\r\n";
   if (ok) block += "- Roster OK!\r\n";
   return block;
 }

@@ -1,6 +1,7 @@
 #pragma once
 // The league-wide check of rosters and coach links, run after every load and
 // before game days.
+#include <array>
 #include <string>
 #include <vector>
 
@@ -15,6 +16,9 @@ struct RosterReport {
   bool allValid = true;
 };
 
+// "- only N of 20 players available", "- only N of the 3 required Centres
+// available", ... one text per shortage of these counts (total, then C LW RW D G).
+std::vector<std::string> RosterShortages(int total, const std::array<int, 5>& byPos);
 // Counts the fit players of team `t` (loaded into side 0) and composes its lines.
 std::string RosterLine(LeagueState& s, int t, bool& ok);
 RosterReport CheckRosters(LeagueState& s);
