@@ -107,19 +107,20 @@ RatingAverages LineEditor::TeamAverages() const {
   return avg;
 }
 
-void LineEditor::cmdAuto() {
+bool LineEditor::cmdAuto() {
   int dressed = 0;
   for (int i = 0; i < kRosterSlots; ++i) dressed += s_.player(side(), i).Status == kDressedHealthy;
   if (dressed != kDressedPlayers) {
     s_.ui.tell("There are only " + std::to_string(dressed) + " players on the roster.\nSet roster first",
                "Auto Lines");
-    return;
+    return false;
   }
   AutoLines(false);
   ShowPos.fill(true);
   AddPlayers();
   ReadLineAssgts();
   Changed = true;
+  return true;
 }
 
 bool LineEditor::cmdExit() {

@@ -41,7 +41,8 @@ class LineEditor : public LineMaker {
   RatingAverages LineAverages(int row) const;
   RatingAverages TeamAverages() const;
 
-  void cmdAuto();
+  // False (after telling) unless exactly 20 players are dressed and healthy.
+  bool cmdAuto();
   // Asks to keep changes; an incomplete table keeps the editor open (false).
   bool cmdExit();
   void cmdClose();

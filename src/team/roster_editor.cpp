@@ -56,53 +56,61 @@ void RosterEditor::listPlayers() {
   Caption = Complete ? "Roster Complete" : std::to_string(total) + " Total Players";
 }
 
-void RosterEditor::MoveOne(RosterMove move, int index, bool& stop) {
+bool RosterEditor::MoveOne(RosterMove move, int index, bool& stop) {
   Player& p = at(index);
   std::string name = p.Name.str();
   bool fit = p.injury() == 0 && p.Suspended == 0;
+  auto refuse = [&](const std::string& text) {
+    s_.ui.tell(text, kSetTitle);
+    return false;
+  };
   switch (move) {
-    case RosterMove::DressedToScratch: temp(index) = static_cast<u8>(temp(index) - 100); return;
+    case RosterMove::DressedToScratch: break;
     case RosterMove::ScratchToDressed:
       // A healthy dressed player sent down in this sitting stays down until leaving.
-      if (!fit || p.Status >= 200) return s_.ui.tell(name + " is unavailable", kSetTitle);
-      temp(index) = static_cast<u8>(temp(index) + 100);
-      return;
+      if (!fit || p.Status >= 200) return refuse(name + " is unavailable");
+      break;
     case RosterMove::ScratchToMinors:
-      if (!fit) return s_.ui.tell(name + " cannot be sent to farm", kSetTitle);
-      temp(index) = static_cast<u8>(temp(index) - 100);
-      return;
+      if (!fit) return refuse(name + " cannot be sent to farm");
+      break;
     case RosterMove::MinorsToScratch:
       if (ProCount >= kProRosterLimit) {
-        s_.ui.tell("Roster is full", kSetTitle);
         stop = true;
-        return;
+        return refuse("Roster is full");
       }
-      temp(index) = static_cast<u8>(temp(index) + 100);
-      return;
+      break;
   }
+  bool up = move == RosterMove::ScratchToDressed || move == RosterMove::MinorsToScratch;
+  temp(index) = static_cast<u8>(up ? temp(index) + 100 : temp(index) - 100);
+  return true;
 }
 
-void RosterEditor::cmdMovePlayer(RosterMove move, const std::vector<int>& selected) {
+bool RosterEditor::cmdMovePlayer(RosterMove move, const std::vector<int>& selected) {
   Changed = true;
   const auto& source = list(SourceList(move));
-  bool stop = false;
+  bool stop = false, all = true;
   for (int index : selected) {
     bool listed = false;
     for (const auto& e : source) listed = listed || e.index == index;
-    if (listed) MoveOne(move, index, stop);
+    if (listed) all = MoveOne(move, index, stop) && all;
     if (stop) break;
   }
   listPlayers();
+  return all;
 }
 
-void RosterEditor::cmdAuto() {
+bool RosterEditor::cmdAuto() {
   Changed = true;
   NamedCounts c = CountNamed(s_, side());
   std::string text;
   for (const auto& line : RosterShortages(c.total, c.byPos)) text += line + "\r\n";
-  if (!text.empty()) return s_.ui.tell("Not enough players:\r\n" + text, "Auto Roster");
+  if (!text.empty()) {
+    s_.ui.tell("Not enough players:\r\n" + text, "Auto Roster");
+    return false;
+  }
   AutoRoster(false);
   listPlayers();
+  return true;
 }
 
 void RosterEditor::SetName(int index, const std::string& text) {

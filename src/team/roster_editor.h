@@ -33,9 +33,13 @@ class RosterEditor : public RosterMaker {
   const std::string& caption() const { return Caption; }
   bool complete() const { return Complete; }
 
-  // Moves the selected players of the move's source list (others are ignored).
-  void cmdMovePlayer(RosterMove move, const std::vector<int>& selected);
-  void cmdAuto();
+  // Moves the selected players of the move's source list (others are ignored);
+  // false when one was refused.
+  bool cmdMovePlayer(RosterMove move, const std::vector<int>& selected);
+  // The list a player stands in now: kMinorsList, kScratchList or kDressedList.
+  int listOf(int index) const { return TempStatus[static_cast<std::size_t>(index)] / 100; }
+  // False (after telling the shortages) when the team has too few players.
+  bool cmdAuto();
   void SetName(int index, const std::string& text);
   // Stores the whole part of a value from 15 to 99; others are dropped. The
   // player's Overall afterwards.
@@ -58,7 +62,7 @@ class RosterEditor : public RosterMaker {
   int ProCount = 0;
 
  private:
-  void MoveOne(RosterMove move, int index, bool& stop);
+  bool MoveOne(RosterMove move, int index, bool& stop);
   void ClearLinesOfUndressed();
 
   std::array<std::vector<Entry>, 3> Lists;
