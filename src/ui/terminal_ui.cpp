@@ -35,7 +35,7 @@ std::optional<std::string> TerminalUi::readLine(const std::string& shown) {
     std::string a = answers_.front();
     answers_.pop_front();
     out_ << shown << a << "\n";
-    return a == "<cancel>" ? std::nullopt : std::optional<std::string>(Utf8ToCp1252(a));
+    return a == "<cancel>" ? std::nullopt : std::optional<std::string>(a);
   }
   out_ << shown << std::flush;
   std::string line;
@@ -44,7 +44,7 @@ std::optional<std::string> TerminalUi::readLine(const std::string& shown) {
     return std::nullopt;
   }
   if (!line.empty() && line.back() == '\r') line.pop_back();
-  return Utf8ToCp1252(line);
+  return line;
 }
 
 Answer TerminalUi::ask(const std::string& text, const std::string& title, Buttons buttons) {
@@ -65,8 +65,10 @@ std::optional<std::string> TerminalUi::prompt(const std::string& text, const std
                                               const std::string& defaultValue) {
   std::string shown = "[" + Show(title) + "] " + Show(text);
   if (!defaultValue.empty()) shown += " [" + Show(defaultValue) + "]";
+  // Typed text goes into records, which hold Windows-1252; file names stay as typed.
   auto line = readLine(shown + ": ");
   if (line && line->empty()) return defaultValue;
+  if (line) return Utf8ToCp1252(*line);
   return line;
 }
 
