@@ -3,6 +3,7 @@
 #include "console/main_console.h"
 #include "league/league_files.h"
 #include "session.h"
+#include "util/cp1252.h"
 
 namespace kvl {
 
@@ -33,7 +34,7 @@ void RegisterLeagueCommands(CLI::App& app, Session& s) {
 
   auto name = std::make_shared<std::string>();
   AddCommand(app, s, "rename-league", "Change the league's name (25 characters at most)", true,
-             [&s, name] { MainConsole(s.state).RenameLeague(*name); })
+             [&s, name] { MainConsole(s.state).RenameLeague(Utf8ToCp1252(*name)); })
       ->add_option("NAME", *name, "the new name")
       ->required();
 }

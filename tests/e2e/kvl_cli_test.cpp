@@ -1,0 +1,306 @@
+// The kvl program run as a user runs it: exit statuses, one-shot commands with
+// the exit protocol, answers given in advance, the shell, and bad input.
+#include <gtest/gtest.h>
+
+#include <fmt/format.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "console/startup.h"
+#include "support/found_cli.h"
+#include "support/found_file_set.h"
+#include "support/league_fixture.h"
+#include "util/record_file.h"
+
+namespace kvl {
+namespace {
+
+using test::CliRun;
+using test::Snapshot;
+using test::SnapshotDir;
+
+bool Has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
+
+// The words of the "Enabled commands:" line of info.
+std::vector<std::string> EnabledCommands(const std::string& out) {
+  auto at = out.find("Enabled commands:");
+  std::istringstream line(out.substr(at + 17, out.find('\n', at) - at - 17));
+  std::vector<std::string> words;
+  for (std::string w; line >> w;) words.push_back(w);
+  return words;
+}
+
+bool Enabled(const std::string& out, const std::string& cmd) {
+  auto words = EnabledCommands(out);
+  return std::find(words.begin(), words.end(), cmd) != words.end();
+}
+
+class Cli : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    fs::create_directories(leagueDir());
+    league = (leagueDir() / "metro").string();
+    auto spec = test::StandardLeague(10, 3);
+    test::Enrich(spec, 9);
+    test::WriteLeague(spec, league);
+    test::WriteOptionalFiles(league, 10, 4);
+  }
+  fs::path leagueDir() const { return dir.path() / "league"; }
+  CliRun Run(std::vector<std::string> args, const std::string& input = "") {
+    args.insert(args.begin(), {"--home", home.string()});
+    return test::RunKvl(args, dir.path() / "io", input);
+  }
+  Snapshot Files() const { return SnapshotDir(leagueDir()); }
+  std::string StoredName() const {
+    Bytes lge = ReadFileBytes(league + ".lge");
+    return Condense(std::string(lge.begin(), lge.begin() + 25));
+  }
+  void SetHeaderBytes(const std::vector<std::pair<std::size_t, std::uint8_t>>& bytes) {
+    Bytes lge = ReadFileBytes(league + ".lge");
+    for (auto [at, v] : bytes) lge[at] = v;
+    WriteFileAtomic(league + ".lge", lge);
+  }
+
+  test::TempDir dir;
+  fs::path home = dir.path() / "home";
+  std::string league;
+};
+
+// ---- exit statuses -------------------------------------------------------------
+
+TEST_F(Cli, UsageErrorsExitTwo) {
+  std::vector<std::vector<std::string>> cases{{"frobnicate"},
+                                              {},
+                                              {"info", "--bogus"},
+                                              {"--seed", "many", "info"},
+                                              {"--answers", (dir.path() / "nowhere").string(), "info"},
+                                              {"rename-league"}};
+  for (const auto& args : cases) {
+    CliRun r = Run(args);
+    EXPECT_EQ(r.status, 2) << fmt::format("{}", fmt::join(args, " ")) << "\n" << r.out << r.err;
+  }
+}
+
+TEST_F(Cli, EveryCommandHasHelp) {
+  CliRun top = Run({"--help"});
+  ASSERT_EQ(top.status, 0);
+  auto at = top.out.find("Subcommands:");
+  ASSERT_NE(at, std::string::npos);
+  std::istringstream lines(top.out.substr(at));
+  std::string line;
+  std::getline(lines, line);
+  int seen = 0;
+  while (std::getline(lines, line) && line.size() > 2 && line[2] != ' ') {
+    std::string cmd = line.substr(2, line.find(' ', 2) - 2);
+    CliRun r = Run({cmd, "--help"});
+    EXPECT_EQ(r.status, 0) << cmd;
+    EXPECT_TRUE(Has(r.out, "Usage:")) << cmd;
+    ++seen;
+  }
+  EXPECT_GE(seen, 6);  // shell info load save save-as rename-league, at least
+  EXPECT_FALSE(fs::exists(home)) << "help starts nothing";
+}
+
+TEST_F(Cli, ACommandThatNeedsALeagueIsRefusedWithoutOne) {
+  CliRun r = Run({"save"});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_TRUE(Has(r.out, "No league is open")) << r.out;
+  EXPECT_TRUE(Has(r.out, "[Load Local League Files]"));
+}
+
+TEST_F(Cli, InfoOnAnEmptyHomeSaysThereIsNoLeague) {
+  CliRun r = Run({"info"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_TRUE(Has(r.out, "No league is open. Home folder: " + home.string()));
+  EXPECT_TRUE(Enabled(r.out, "load"));
+  EXPECT_FALSE(Enabled(r.out, "make-schedule"));
+  EXPECT_TRUE(fs::exists(home / "default.lge"));
+}
+
+TEST_F(Cli, ASecondCopyIsRefused) {
+  fs::create_directories(home);
+  HomeLock held;
+  ASSERT_TRUE(held.acquire(home));
+  CliRun r = Run({"--league", league, "info"});
+  EXPECT_EQ(r.status, 1);
+  EXPECT_TRUE(Has(r.out, "[Cannot start a new copy of KVL] There's already a copy of KVL running. To ensure no files "
+                         "will be corrupted, you cannot start a new instance."))
+      << r.out;
+  EXPECT_FALSE(Has(r.out, "League:"));
+}
+
+// ---- a league written to the documented layouts ----------------------------
+
+TEST_F(Cli, InfoShowsTheTeamsAndTouchesNothing) {
+  Snapshot before = Files();
+  CliRun r = Run({"--league", league + ".lge", "info"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_TRUE(Has(r.out, "League: Test League"));
+  EXPECT_TRUE(Has(r.out, "Conference 1: CONF 1"));
+  EXPECT_TRUE(Has(r.out, "Conference 2: CONF 2"));
+  for (int t = 0; t < 10; ++t)
+    EXPECT_TRUE(Has(r.out, fmt::format("{:>2}  Team{:<6} T{:02}", t, t, t))) << t << "\n" << r.out;
+  EXPECT_TRUE(Has(r.out, "State:  Pre-season: no schedule"));
+  EXPECT_FALSE(Has(r.out, "Save League Changes?"));
+  EXPECT_EQ(test::Differences(before, Files()), std::vector<std::string>{});
+  Bytes def = ReadFileBytes(home / "kvl.def");
+  EXPECT_EQ(std::string(def.begin(), def.end()), league + "\r\n");
+}
+
+struct StateCase {
+  const char* name;
+  std::vector<std::pair<std::size_t, std::uint8_t>> header;  // offset, byte
+  const char* state;
+  std::vector<const char*> on, off;
+};
+
+void PrintTo(const StateCase& c, std::ostream* os) { *os << c.name; }
+
+class CliStates : public Cli, public ::testing::WithParamInterface<StateCase> {};
+
+TEST_P(CliStates, InfoTellsTheStateAndTheMenu) {
+  const auto& c = GetParam();
+  SetHeaderBytes(c.header);
+  if (Has(c.name, "Playoffs")) WriteFileAtomic(league + ".plf", EncodeRecord(PlayoffState{}));
+  CliRun r = Run({"--league", league, "info"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_TRUE(Has(r.out, std::string("State:  ") + c.state + "\n")) << r.out;
+  for (const char* cmd : c.on) EXPECT_TRUE(Enabled(r.out, cmd)) << cmd;
+  for (const char* cmd : c.off) EXPECT_FALSE(Enabled(r.out, cmd)) << cmd;
+}
+
+// Header offsets: ScheduleMade 220, SeasonOver 222, GamesPlayed 272, LeagueGames
+// 274, ExpansionDraftOn 417, InPlayoffs 419, OffSeason 421, EntryDraftOn 423.
+INSTANTIATE_TEST_SUITE_P(
+    States, CliStates,
+    ::testing::Values(
+        StateCase{"PreSeason", {}, "Pre-season: no schedule", {"align", "entry-draft"}, {"start-playoffs", "new-season", "rerate"}},
+        StateCase{"Regular",
+                  {{220, 0xFF}, {221, 0xFF}, {272, 40}, {274, 90}},
+                  "Regular season, 40 of 90 games played",
+                  {"play-games"},
+                  {"new-season", "continue-entry-draft"}},
+        StateCase{"SeasonOver",
+                  {{220, 0xFF}, {221, 0xFF}, {222, 0xFF}, {223, 0xFF}, {272, 90}, {274, 90}},
+                  "Season over, playoffs not begun",
+                  {"start-playoffs", "review-schedule"},
+                  {"entry-draft", "align"}},
+        StateCase{"Playoffs",
+                  {{220, 0xFF}, {221, 0xFF}, {222, 0xFF}, {223, 0xFF}, {419, 0xFF}, {420, 0xFF}},
+                  "Playoffs",
+                  {"play-games"},
+                  {"start-playoffs", "entry-draft", "align", "review-schedule"}},
+        StateCase{"OffSeasonDraft",
+                  {{421, 0xFF}, {422, 0xFF}, {423, 0xFF}, {424, 0xFF}},
+                  "Off-season; entry draft under way",
+                  {"new-season", "rerate", "continue-entry-draft"},
+                  {"start-playoffs"}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(Cli, SaveLeavesEveryFileByteIdentical) {
+  Snapshot before = Files();
+  CliRun r = Run({"--league", league, "--yes", "save"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_TRUE(Has(r.out, "[Save League] " + league + " saved"));
+  EXPECT_EQ(test::Differences(before, Files()), std::vector<std::string>{});
+}
+
+TEST_F(Cli, TheLastLeagueOpensWithoutLeagueOption) {
+  ASSERT_EQ(Run({"--league", league, "info"}).status, 0);
+  CliRun r = Run({"info"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_TRUE(Has(r.out, "File:   " + league));
+}
+
+TEST_F(Cli, AnswersComeFromTheFile) {
+  struct Case {
+    const char* answers;
+    const char* stored;
+  };
+  for (Case c : {Case{"no\n", "Test League"}, Case{"yes\r\n", "Answered League"}}) {
+    fs::path answers = dir.path() / "answers.txt";
+    std::ofstream(answers, std::ios::binary) << c.answers;
+    CliRun r = Run({"--league", league, "--answers", answers.string(), "rename-league", "Answered League"});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_TRUE(Has(r.out, "[Keep Changes] Save League Changes?")) << r.out;
+    EXPECT_EQ(StoredName(), c.stored);
+  }
+}
+
+TEST_F(Cli, SaveAsAsksBeforeOverwriting) {
+  std::string copy = (leagueDir() / "copy").string();
+  WriteFileAtomic(copy + ".lge", Bytes{1, 2, 3});
+  fs::path answers = dir.path() / "answers.txt";
+  for (const char* answer : {"no", "yes"}) {
+    std::ofstream(answers, std::ios::binary) << answer << "\n";
+    CliRun r = Run({"--league", league, "--answers", answers.string(), "save-as", copy});
+    EXPECT_EQ(r.status, 0) << r.err;
+    EXPECT_TRUE(Has(r.out, "[Save League] File Exists! Overwrite?")) << r.out;
+    EXPECT_EQ(ReadFileBytes(copy + ".lge").size(), std::string(answer) == "yes" ? 459u : 3u);
+  }
+  EXPECT_EQ(ReadFileBytes(copy + ".tms"), ReadFileBytes(league + ".tms"));
+}
+
+TEST_F(Cli, RenameTakesTheTerminalsTextAndCutsIt) {
+  CliRun r = Run({"--league", league, "--yes", "rename-league", "Ligue Québécoise de Hockey Junior"});
+  ASSERT_EQ(r.status, 0) << r.err;
+  Bytes lge = ReadFileBytes(league + ".lge");
+  EXPECT_EQ(std::string(lge.begin(), lge.begin() + 25), "Ligue Qu\xE9" "b\xE9" "coise de Hocke");
+  CliRun info = Run({"info"});
+  EXPECT_TRUE(Has(info.out, "League: Ligue Québécoise de Hocke\n")) << info.out;
+}
+
+// ---- the shell ---------------------------------------------------------------------
+
+TEST_F(Cli, ShellKeepsTheLeagueOpenAcrossCommands) {
+  CliRun r = Run({"--league", league, "shell"}, "info\nrename-league \"Shell League\"\nsave\nexit\n");
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_TRUE(Has(r.out, "kvl> "));
+  EXPECT_TRUE(Has(r.out, "League: Test League"));
+  EXPECT_TRUE(Has(r.out, league + " saved"));
+  EXPECT_FALSE(Has(r.out, "Save League Changes?")) << "saved before the exit";
+  EXPECT_EQ(StoredName(), "Shell League");
+}
+
+TEST_F(Cli, ShellGoesOnAfterAWrongCommandAndEndsAtEndOfInput) {
+  CliRun r = Run({"--league", league, "shell"}, "frobnicate\nrename-league Unsaved\ninfo\n");
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_TRUE(Has(r.out, "League: Unsaved"));
+  // The end of input answers the exit question: no.
+  EXPECT_TRUE(Has(r.out, "Save League Changes?"));
+  EXPECT_EQ(StoredName(), "Test League");
+}
+
+// ---- bad input -------------------------------------------------------------------------
+
+TEST_F(Cli, ADamagedFileFailsWithTheMessageOnStderr) {
+  fs::resize_file(league + ".tms", 254 * 9);
+  Snapshot before = Files();
+  for (auto args : {std::vector<std::string>{"--league", league, "--yes", "info"},
+                    std::vector<std::string>{"--yes", "load", league + ".lge"}}) {
+    CliRun r = Run(args);
+    EXPECT_EQ(r.status, 3);
+    EXPECT_TRUE(Has(r.err, league + ".tms")) << r.err;
+    EXPECT_TRUE(Has(r.err, "holds 9 teams but the league has 10")) << r.err;
+    EXPECT_EQ(test::Differences(before, Files()), std::vector<std::string>{});
+  }
+}
+
+TEST_F(Cli, AMissingFileIsToldAndEndsTheRun) {
+  fs::remove(league + ".coa");
+  ASSERT_EQ(Run({"info"}).status, 0);
+  std::ofstream(home / "kvl.def") << league << "\n";
+  Snapshot before = Files();
+  CliRun r = Run({"--yes", "info"});
+  EXPECT_EQ(r.status, 3);
+  EXPECT_TRUE(Has(r.out, "[File not found] KVL was unable to find the following file \n" + league +
+                             ".coa\nPlease ensure that you have a complete set of league files."))
+      << r.out;
+  EXPECT_FALSE(Has(r.out, "League:")) << "the command does not run";
+  EXPECT_FALSE(fs::exists(home / "kvl.def"));
+  EXPECT_EQ(test::Differences(before, Files()), std::vector<std::string>{});
+}
+
+}  // namespace
+}  // namespace kvl
