@@ -34,8 +34,8 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& g) {
   app.add_option("--home", g.home, "home folder (default $KVL_HOME, else $XDG_DATA_HOME/kvl)");
   app.add_option("--league", g.league, "league to open instead of the last one (.lge file or path without extension)");
   app.add_option("--seed", g.seed, "make every random draw of the run repeatable");
-  app.add_flag("--yes", g.yes, "answer yes to every question");
-  app.add_flag("--no", g.no, "answer no to every question");
+  auto* yes = app.add_flag("--yes", g.yes, "answer yes to every question");
+  app.add_flag("--no", g.no, "answer no to every question")->excludes(yes);
   app.add_option("--answers", g.answers, "a file of answers, one a line, to questions, prompts and file choices")
       ->check(CLI::ExistingFile);
 }

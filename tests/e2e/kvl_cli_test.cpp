@@ -75,7 +75,8 @@ TEST_F(Cli, UsageErrorsExitTwo) {
                                               {"info", "--bogus"},
                                               {"--seed", "many", "info"},
                                               {"--answers", (dir.path() / "nowhere").string(), "info"},
-                                              {"rename-league"}};
+                                              {"rename-league"},
+                                              {"--yes", "--no", "info"}};
   for (const auto& args : cases) {
     CliRun r = Run(args);
     EXPECT_EQ(r.status, 2) << fmt::format("{}", fmt::join(args, " ")) << "\n" << r.out << r.err;
