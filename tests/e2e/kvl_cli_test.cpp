@@ -16,7 +16,7 @@
 namespace kvl {
 namespace {
 
-using test::CliRun;
+using test::ProgramRun;
 using test::Snapshot;
 using test::SnapshotDir;
 
@@ -47,7 +47,7 @@ class Cli : public ::testing::Test {
     test::WriteOptionalFiles(league, 10, 4);
   }
   fs::path leagueDir() const { return dir.path() / "league"; }
-  CliRun Run(std::vector<std::string> args, const std::string& input = "") {
+  ProgramRun Run(std::vector<std::string> args, const std::string& input = "") {
     args.insert(args.begin(), {"--home", home.string()});
     return test::RunKvl(args, dir.path() / "io", input);
   }
@@ -78,13 +78,13 @@ TEST_F(Cli, UsageErrorsExitTwo) {
                                               {"rename-league"},
                                               {"--yes", "--no", "info"}};
   for (const auto& args : cases) {
-    CliRun r = Run(args);
+    ProgramRun r = Run(args);
     EXPECT_EQ(r.status, 2) << fmt::format("{}", fmt::join(args, " ")) << "\n" << r.out << r.err;
   }
 }
 
 TEST_F(Cli, EveryCommandHasHelp) {
-  CliRun top = Run({"--help"});
+  ProgramRun top = Run({"--help"});
   ASSERT_EQ(top.status, 0);
   auto at = top.out.find("Subcommands:");
   ASSERT_NE(at, std::string::npos);
@@ -94,7 +94,7 @@ TEST_F(Cli, EveryCommandHasHelp) {
   int seen = 0;
   while (std::getline(lines, line) && line.size() > 2 && line[2] != ' ') {
     std::string cmd = line.substr(2, line.find(' ', 2) - 2);
-    CliRun r = Run({cmd, "--help"});
+    ProgramRun r = Run({cmd, "--help"});
     EXPECT_EQ(r.status, 0) << cmd;
     EXPECT_TRUE(Has(r.out, "Usage:")) << cmd;
     ++seen;
@@ -104,14 +104,14 @@ TEST_F(Cli, EveryCommandHasHelp) {
 }
 
 TEST_F(Cli, ACommandThatNeedsALeagueIsRefusedWithoutOne) {
-  CliRun r = Run({"save"});
+  ProgramRun r = Run({"save"});
   EXPECT_EQ(r.status, 1);
   EXPECT_TRUE(Has(r.out, "No league is open")) << r.out;
   EXPECT_TRUE(Has(r.out, "[Load Local League Files]"));
 }
 
 TEST_F(Cli, InfoOnAnEmptyHomeSaysThereIsNoLeague) {
-  CliRun r = Run({"info"});
+  ProgramRun r = Run({"info"});
   EXPECT_EQ(r.status, 0);
   EXPECT_TRUE(Has(r.out, "No league is open. Home folder: " + home.string()));
   EXPECT_TRUE(Enabled(r.out, "load"));
@@ -123,7 +123,7 @@ TEST_F(Cli, ASecondCopyIsRefused) {
   fs::create_directories(home);
   HomeLock held;
   ASSERT_TRUE(held.acquire(home));
-  CliRun r = Run({"--league", league, "info"});
+  ProgramRun r = Run({"--league", league, "info"});
   EXPECT_EQ(r.status, 1);
   EXPECT_TRUE(Has(r.out, "[Cannot start a new copy of KVL] There's already a copy of KVL running. To ensure no files "
                          "will be corrupted, you cannot start a new instance."))
@@ -135,7 +135,7 @@ TEST_F(Cli, ASecondCopyIsRefused) {
 
 TEST_F(Cli, InfoShowsTheTeamsAndTouchesNothing) {
   Snapshot before = Files();
-  CliRun r = Run({"--league", league + ".lge", "info"});
+  ProgramRun r = Run({"--league", league + ".lge", "info"});
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_TRUE(Has(r.out, "League: Test League"));
   EXPECT_TRUE(Has(r.out, "Conference 1: CONF 1"));
@@ -164,7 +164,7 @@ TEST_P(CliStates, InfoTellsTheStateAndTheMenu) {
   const auto& c = GetParam();
   SetHeaderBytes(c.header);
   if (Has(c.name, "Playoffs")) WriteFileAtomic(league + ".plf", EncodeRecord(PlayoffState{}));
-  CliRun r = Run({"--league", league, "info"});
+  ProgramRun r = Run({"--league", league, "info"});
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_TRUE(Has(r.out, std::string("State:  ") + c.state + "\n")) << r.out;
   for (const char* cmd : c.on) EXPECT_TRUE(Enabled(r.out, cmd)) << cmd;
@@ -201,7 +201,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(Cli, SaveLeavesEveryFileByteIdentical) {
   Snapshot before = Files();
-  CliRun r = Run({"--league", league, "--yes", "save"});
+  ProgramRun r = Run({"--league", league, "--yes", "save"});
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_TRUE(Has(r.out, "[Save League] " + league + " saved"));
   EXPECT_EQ(test::Differences(before, Files()), std::vector<std::string>{});
@@ -209,7 +209,7 @@ TEST_F(Cli, SaveLeavesEveryFileByteIdentical) {
 
 TEST_F(Cli, TheLastLeagueOpensWithoutLeagueOption) {
   ASSERT_EQ(Run({"--league", league, "info"}).status, 0);
-  CliRun r = Run({"info"});
+  ProgramRun r = Run({"info"});
   EXPECT_EQ(r.status, 0);
   EXPECT_TRUE(Has(r.out, "File:   " + league));
 }
@@ -222,7 +222,7 @@ TEST_F(Cli, AnswersComeFromTheFile) {
   for (Case c : {Case{"no\n", "Test League"}, Case{"yes\r\n", "Answered League"}}) {
     fs::path answers = dir.path() / "answers.txt";
     std::ofstream(answers, std::ios::binary) << c.answers;
-    CliRun r = Run({"--league", league, "--answers", answers.string(), "rename-league", "Answered League"});
+    ProgramRun r = Run({"--league", league, "--answers", answers.string(), "rename-league", "Answered League"});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_TRUE(Has(r.out, "[Keep Changes] Save League Changes?")) << r.out;
     EXPECT_EQ(StoredName(), c.stored);
@@ -235,7 +235,7 @@ TEST_F(Cli, SaveAsAsksBeforeOverwriting) {
   fs::path answers = dir.path() / "answers.txt";
   for (const char* answer : {"no", "yes"}) {
     std::ofstream(answers, std::ios::binary) << answer << "\n";
-    CliRun r = Run({"--league", league, "--answers", answers.string(), "save-as", copy});
+    ProgramRun r = Run({"--league", league, "--answers", answers.string(), "save-as", copy});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_TRUE(Has(r.out, "[Save League] File Exists! Overwrite?")) << r.out;
     EXPECT_EQ(ReadFileBytes(copy + ".lge").size(), std::string(answer) == "yes" ? 459u : 3u);
@@ -244,18 +244,18 @@ TEST_F(Cli, SaveAsAsksBeforeOverwriting) {
 }
 
 TEST_F(Cli, RenameTakesTheTerminalsTextAndCutsIt) {
-  CliRun r = Run({"--league", league, "--yes", "rename-league", "Ligue Québécoise de Hockey Junior"});
+  ProgramRun r = Run({"--league", league, "--yes", "rename-league", "Ligue Québécoise de Hockey Junior"});
   ASSERT_EQ(r.status, 0) << r.err;
   Bytes lge = ReadFileBytes(league + ".lge");
   EXPECT_EQ(std::string(lge.begin(), lge.begin() + 25), "Ligue Qu\xE9" "b\xE9" "coise de Hocke");
-  CliRun info = Run({"info"});
+  ProgramRun info = Run({"info"});
   EXPECT_TRUE(Has(info.out, "League: Ligue Québécoise de Hocke\n")) << info.out;
 }
 
 // ---- the shell ---------------------------------------------------------------------
 
 TEST_F(Cli, ShellKeepsTheLeagueOpenAcrossCommands) {
-  CliRun r = Run({"--league", league, "shell"}, "info\nrename-league \"Shell League\"\nsave\nexit\n");
+  ProgramRun r = Run({"--league", league, "shell"}, "info\nrename-league \"Shell League\"\nsave\nexit\n");
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_TRUE(Has(r.out, "kvl> "));
   EXPECT_TRUE(Has(r.out, "League: Test League"));
@@ -265,7 +265,7 @@ TEST_F(Cli, ShellKeepsTheLeagueOpenAcrossCommands) {
 }
 
 TEST_F(Cli, ShellGoesOnAfterAWrongCommandAndEndsAtEndOfInput) {
-  CliRun r = Run({"--league", league, "shell"}, "frobnicate\nrename-league Unsaved\ninfo\n");
+  ProgramRun r = Run({"--league", league, "shell"}, "frobnicate\nrename-league Unsaved\ninfo\n");
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_TRUE(Has(r.out, "League: Unsaved"));
   // The end of input answers the exit question: no.
@@ -280,7 +280,7 @@ TEST_F(Cli, ADamagedFileFailsWithTheMessageOnStderr) {
   Snapshot before = Files();
   for (auto args : {std::vector<std::string>{"--league", league, "--yes", "info"},
                     std::vector<std::string>{"--yes", "load", league + ".lge"}}) {
-    CliRun r = Run(args);
+    ProgramRun r = Run(args);
     EXPECT_EQ(r.status, 3);
     EXPECT_TRUE(Has(r.err, league + ".tms")) << r.err;
     EXPECT_TRUE(Has(r.err, "holds 9 teams but the league has 10")) << r.err;
@@ -293,7 +293,7 @@ TEST_F(Cli, AMissingFileIsToldAndEndsTheRun) {
   ASSERT_EQ(Run({"info"}).status, 0);
   std::ofstream(home / "kvl.def") << league << "\n";
   Snapshot before = Files();
-  CliRun r = Run({"--yes", "info"});
+  ProgramRun r = Run({"--yes", "info"});
   EXPECT_EQ(r.status, 3);
   EXPECT_TRUE(Has(r.out, "[File not found] KVL was unable to find the following file \n" + league +
                              ".coa\nPlease ensure that you have a complete set of league files."))

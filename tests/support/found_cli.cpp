@@ -25,7 +25,7 @@ std::string Slurp(const std::filesystem::path& p) {
 
 }  // namespace
 
-CliRun RunKvl(const std::vector<std::string>& args, const std::filesystem::path& scratch, const std::string& input) {
+ProgramRun RunKvl(const std::vector<std::string>& args, const std::filesystem::path& scratch, const std::string& input) {
   std::filesystem::create_directories(scratch);
   auto in = scratch / "stdin", out = scratch / "stdout", err = scratch / "stderr";
   std::ofstream(in, std::ios::binary) << input;
@@ -33,7 +33,7 @@ CliRun RunKvl(const std::vector<std::string>& args, const std::filesystem::path&
   for (const auto& a : args) cmd += " " + Quote(a);
   cmd += " <" + Quote(in.string()) + " >" + Quote(out.string()) + " 2>" + Quote(err.string());
   int raw = std::system(cmd.c_str());
-  CliRun r;
+  ProgramRun r;
   r.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
   r.out = Slurp(out);
   r.err = Slurp(err);

@@ -6,14 +6,14 @@
 
 namespace kvl::test {
 
-struct CliRun {
+struct ProgramRun {
   int status = -1;  // the exit status
   std::string out, err;
 };
 
 // Runs kvl with `args`, feeding `input` on standard input; `scratch` holds the
 // files that carry input and output.
-CliRun RunKvl(const std::vector<std::string>& args, const std::filesystem::path& scratch,
+ProgramRun RunKvl(const std::vector<std::string>& args, const std::filesystem::path& scratch,
               const std::string& input = "");
 
 }  // namespace kvl::test
