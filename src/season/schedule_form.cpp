@@ -105,7 +105,7 @@ void ScheduleForm::finish() {
   s_.league.ScheduleMade = kTrue;
   s_.league.NextGameMark = -1;  // 65535 as the field is read back
   s_.league.GamesPlayed = 0;
-  s_.Playoff.PlayoffRound = 0;
+  s_.Playoff.PlayoffRound = 0;  // the stage counter
   s_.Dirty = true;
   s_.ui.progressDone();
 }

@@ -62,22 +62,13 @@ TEST(NewSchedule, MakesTheAllottedGamesAndResetsTheLeague) {
   loadteam(lg.h.state, 5, 0);
   EXPECT_EQ(lg.h.state.player(0, 0).G, 0) << "ResetLeague ran";
   EXPECT_TRUE(fs::exists(lg.h.home / "AllotGameLog.txt"));
-}
 
-// Read by offsets alone: in the demo league at the defaults division rivals
-// meet 6 times, all others twice, and every pair splits its games evenly.
-TEST(NewSchedule, DemoLeagueFileSplitsEveryPairEvenly) {
-  FormLeague lg;
-  ScheduleForm form(lg.h.state);
-  ASSERT_EQ(lg.pressUntilMade(form), ScheduleOutcome::Made);
+  // Read by offsets alone: at the defaults division rivals meet 6 times, all
+  // others twice, and every pair splits its games evenly.
   test::ScheduleFileFacts f = test::ReadScheduleFacts(lg.scx(), 24);
-  EXPECT_EQ(f.records, 792u);
-  EXPECT_TRUE(f.numberedFromOne);
-  EXPECT_TRUE(f.freshRecords);
   for (int a = 0; a < 24; ++a)
     for (int b = 0; b < 24; ++b) {
-      if (a == b) continue;
-      int games = a % 4 == b % 4 ? 6 : 2;  // teams are dealt round the four divisions
+      int games = a == b ? 0 : a % 4 == b % 4 ? 6 : 2;  // teams are dealt round the four divisions
       EXPECT_EQ(f.games[a][b], games) << a << " v " << b;
       EXPECT_EQ(f.hosted[a][b], games / 2) << a << " hosting " << b;
     }
