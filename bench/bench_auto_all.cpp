@@ -90,7 +90,8 @@ void BM_AutoAll50Teams(benchmark::State& st) {
     benchmark::DoNotOptimize(r.teamsSet);
     if (r.teamsSet != kTeams) st.SkipWithError("a team was not set");
   }
-  st.counters["teams/s"] = benchmark::Counter(static_cast<double>(kTeams), benchmark::Counter::kIsIterationInvariantRate);
+  st.counters["teams/s"] =
+      benchmark::Counter(static_cast<double>(kTeams), benchmark::Counter::kIsIterationInvariantRate);
   fs::remove_all(dir);
 }
 BENCHMARK(BM_AutoAll50Teams)->Unit(benchmark::kMillisecond);

@@ -47,7 +47,9 @@ void Move(Session& s, RosterEditor& e, RosterMove move, const std::vector<int>& 
   for (int index : indexes) {
     CheckSlot(s, e, index);
     if (e.listOf(index) != SourceList(move))
-      RefuseWith(s, fmt::format("{} is not on the {}.", s.state.player(0, index).Name.str(), kListNames[SourceList(move)]),
+      RefuseWith(s,
+                 fmt::format("{} is not on the {}.", s.state.player(0, index).Name.str(),
+                             kListNames[SourceList(move)]),
                  "Set Roster");
     if (!e.cmdMovePlayer(move, {index})) throw Refused("move refused");
   }

@@ -11,7 +11,8 @@ namespace {
 
 std::string EntryLine(const RosterEditor::Entry& entry, const Player& p) {
   std::string notes;
-  if (p.injury() > 0) notes += " injured " + std::string(InjuryName[static_cast<std::size_t>(InjuryClassFor(p.injury()))]);
+  if (p.injury() > 0)
+    notes += " injured " + std::string(InjuryName[static_cast<std::size_t>(InjuryClassFor(p.injury()))]);
   if (p.Suspended == 99) notes += " hold-out";
   else if (p.Suspended == 88) notes += " personal reasons";
   else if (p.Suspended > 0) notes += fmt::format(" suspended {}", p.Suspended);

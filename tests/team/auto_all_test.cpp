@@ -62,7 +62,8 @@ TEST(AutoAllTest, ShortTeamsAreLeftAsTheyAreWithTheirShortagesAndGapsAreClosed) 
   EXPECT_EQ(r.skipped[0], (std::vector<std::string>{"Team1", "- only 19 of 20 available", "- only 1 of 3+ C"}));
   EXPECT_EQ(h.ui.callsOf("print").back().text, "Team1 - only 19 of 20 available - only 1 of 3+ C");
   loadteam(h.state, 1, 0);
-  for (int i = 0; i < kRosterSlots; ++i) EXPECT_EQ(h.state.player(0, i).Status, before[static_cast<std::size_t>(i)].Status);
+  for (int i = 0; i < kRosterSlots; ++i)
+    EXPECT_EQ(h.state.player(0, i).Status, before[static_cast<std::size_t>(i)].Status);
   loadteam(h.state, 0, 0);
   EXPECT_FALSE(h.state.player(0, 5).empty());
   EXPECT_TRUE(h.state.player(0, 23).empty()) << "24 players less the one blanked fill slots 0..22";

@@ -16,7 +16,8 @@ struct AutoRosterTest : ::testing::Test {
   int dressed() { return CountOf(maker.TempStatus, 200); }
   int dressedAt(int pos) {
     int n = 0;
-    for (int i = 0; i < kRosterSlots; ++i) n += maker.TempStatus[static_cast<std::size_t>(i)] == 200 && at(i).Pos == pos;
+    for (int i = 0; i < kRosterSlots; ++i)
+      n += maker.TempStatus[static_cast<std::size_t>(i)] == 200 && at(i).Pos == pos;
     return n;
   }
 };
@@ -31,7 +32,8 @@ TEST_F(AutoRosterTest, TwentyHealthyPlayersAreAllDressedWhateverTheirList) {
 }
 
 TEST_F(AutoRosterTest, DressesTheBestAtEachPositionAndTheBestSkatersBeyond) {
-  PutRoster(h.state, 0, Join({Squad({5, 5, 5, 0, 0}, 80, 100), Several(kDefence, 8, 90, 100), Several(kGoalie, 3, 70, 100)}));
+  PutRoster(h.state, 0,
+            Join({Squad({5, 5, 5, 0, 0}, 80, 100), Several(kDefence, 8, 90, 100), Several(kGoalie, 3, 70, 100)}));
   maker.AutoRoster(false);
   EXPECT_EQ(dressed(), 20);
   // Three forwards of each kind and six D; of the skaters left the two D (84,
