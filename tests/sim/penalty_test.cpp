@@ -1,0 +1,237 @@
+// Penalties: weights, texts, serving time, release on a power-play goal,
+// goalie changes, fights and ejections.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "sim/penalty_tables.h"
+#include "support/sim_league.h"
+
+namespace kvl::test {
+namespace {
+
+using PenaltyTest = SeatedGame;
+
+TEST_F(PenaltyTest, SelfServedMinorReturnsToTheBenchWhenItEnds) {
+  GameSide& s = f.side(0);
+  s.Status[5] = kInBox;
+  s.BoxTicks[5] = s.ServeTicks[5] = 24;
+  s.PenaltyKind[5] = kMinor;
+  for (int i = 0; i < 23; ++i) g.Tick();
+  EXPECT_EQ(s.MenInBox, 1);
+  EXPECT_EQ(s.Status[5], kInBox);
+  g.Tick();
+  EXPECT_EQ(s.MenInBox, 0);
+  EXPECT_NE(s.Status[5], kInBox);  // on the bench, or already sent out by a line change
+  EXPECT_EQ(s.BoxTicks[5], 0);
+}
+
+TEST_F(PenaltyTest, BoxTimeRunsOnlyWhileTheClockDoes) {
+  GameSide& s = f.side(0);
+  s.BoxTicks[5] = 10;
+  g.Clock = 1196;
+  g.Tick();  // to 1201: the rest of the tick is skipped
+  EXPECT_EQ(s.BoxTicks[5], 10);
+}
+
+struct OverCase {
+  int kind, serveTicks;
+  bool seat3Empty, seat4Empty;
+  int status, seat;  // seat -1: not seated
+};
+
+class PenaltyOverCases : public testing::TestWithParam<OverCase> {};
+
+TEST_P(PenaltyOverCases, ReleasesByKindAndSeats) {
+  const OverCase& c = GetParam();
+  GameFixture f(SimLeague(4));
+  GameSide& s = f.side(0);
+  f.Seat(0, {0, 4, c.seat3Empty ? kNoPlayer : 12, 8, c.seat4Empty ? kNoPlayer : 13});
+  std::swap(s.OnIce[2], s.OnIce[3]);  // seat 3 is the one tested first
+  s.Status[5] = kInBox;
+  s.PenaltyKind[5] = static_cast<u8>(c.kind);
+  s.ServeTicks[5] = c.serveTicks;
+  f.game.PenaltyOver(0, 5);
+  EXPECT_EQ(s.Status[5], c.status);
+  int seat = -1;
+  for (int i = 0; i < kSeats; ++i)
+    if (s.OnIce[static_cast<std::size_t>(i)] == 5) seat = i;
+  EXPECT_EQ(seat, c.seat);
+  EXPECT_EQ(s.PenaltyKind[5], c.serveTicks > 0 ? c.kind : 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, PenaltyOverCases,
+                         testing::Values(OverCase{kMinor, 0, true, true, kOnIce, 3},
+                                         OverCase{kMinor, 0, false, true, kOnIce, 4},
+                                         OverCase{kDoubleMinor, 0, false, false, kOnBench, -1},
+                                         OverCase{kMajor, 0, true, true, kOnBench, -1},
+                                         OverCase{kMinor, 5, true, true, kInBox, -1}));
+
+TEST_F(PenaltyTest, ReleaseMinorTakesTheShortestMinor) {
+  GameSide& s = f.side(1);
+  auto box = [&](int slot, int kind, int ticks) {
+    s.Status[static_cast<std::size_t>(slot)] = kInBox;
+    s.PenaltyKind[static_cast<std::size_t>(slot)] = static_cast<u8>(kind);
+    s.BoxTicks[static_cast<std::size_t>(slot)] = ticks;
+  };
+  box(5, kMinor, 20);
+  box(6, kMinor, 10);
+  box(7, kMajor, 5);
+  box(9, kDoubleMinor, 40);
+  g.ReleaseMinor(1);
+  EXPECT_EQ(s.Status[6], kOnBench);  // seats full: to the bench
+  EXPECT_EQ(s.PenaltyKind[6], 0);
+  EXPECT_EQ(s.Status[5], kInBox);
+  EXPECT_EQ(s.Status[7], kInBox);
+}
+
+TEST_F(PenaltyTest, ReleaseMinorLeavesTheFirstHalfOfADoubleMinor) {
+  GameSide& s = f.side(1);
+  s.Status[9] = kInBox;
+  s.PenaltyKind[9] = kDoubleMinor;
+  s.BoxTicks[9] = 40;
+  g.ReleaseMinor(1);
+  EXPECT_EQ(s.BoxTicks[9], 40);
+  EXPECT_EQ(s.Status[9], kInBox);
+  s.BoxTicks[9] = 24;  // in its second half it ends like a minor
+  g.ReleaseMinor(1);
+  EXPECT_EQ(s.Status[9], kOnBench);
+}
+
+struct WeightCase {
+  int line, level;
+  double weight;
+};
+
+class PenaltyWeights : public testing::TestWithParam<WeightCase> {};
+
+// Dis 7.5: (12.5 - 7.5)^2 = 25 before the line factor.
+TEST_P(PenaltyWeights, ByLineAndLevel) {
+  const WeightCase& c = GetParam();
+  GameFixture f(SimLeague(4));
+  f.h.state.league.PenaltiesLevel() = static_cast<u8>(c.level);
+  f.side(0).Scaled[kDis][3] = 7.5f;
+  f.side(0).CurrentLine = static_cast<u8>(c.line);
+  EXPECT_DOUBLE_EQ(f.game.PenaltyWeight(0, 3), c.weight);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, PenaltyWeights,
+                         testing::Values(WeightCase{0, 5, 17.5}, WeightCase{1, 5, 25}, WeightCase{2, 5, 32.5},
+                                         WeightCase{3, 5, 32.5}, WeightCase{4, 5, 17.5}, WeightCase{11, 5, 17.5},
+                                         WeightCase{1, 9, 65}, WeightCase{1, 1, -15}));
+
+TEST_F(PenaltyTest, TextsByFlagsAndPosition) {
+  PenaltyCall c;
+  c.offender = 0;
+  c.kind = kMajor;
+  c.extra = 5;
+  EXPECT_EQ(g.PenaltyText(0, c, false, true), "(FIGHTING)");
+  c.extra = 15;
+  EXPECT_EQ(g.PenaltyText(0, c, false, true), "(FIGHTING, Misconduct)");
+  c.ejected = true;
+  EXPECT_EQ(g.PenaltyText(0, c, false, true), "(FIGHTING, Game Misconduct)");
+  std::set<std::string> goalie, defence, forward;
+  c = PenaltyCall{};
+  c.kind = kMinor;
+  for (int i = 0; i < 300; ++i) {
+    c.offender = kFirstG;
+    goalie.insert(g.PenaltyText(0, c, false, false));
+    c.offender = 12;
+    defence.insert(g.PenaltyText(0, c, false, false));
+    c.offender = 0;
+    forward.insert(g.PenaltyText(0, c, false, false));
+  }
+  // A goalie draws rows 7..10 only; a defenceman never interferes with a goalie.
+  EXPECT_EQ(goalie, (std::set<std::string>{"(ROUGHING, Minor)", "(UNSPORTSMANLIKE-CONDUCT, Minor)",
+                                           "(DELAY-OF-GAME, Minor)"}));
+  EXPECT_EQ(defence.count("(GOALIE INTERERENCE, Minor)"), 0u);
+  EXPECT_EQ(forward.count("(GOALIE INTERERENCE, Minor)"), 1u);
+  EXPECT_EQ(forward.count("(DELAY-OF-GAME, Minor)"), 0u);
+}
+
+TEST_F(PenaltyTest, GoaliePenaltyIsServedBySomebodyElse) {
+  std::array<PenaltyCall, 2> calls{};
+  calls[1].offender = kFirstG;
+  calls[1].minutes = 2;
+  calls[1].kind = kMinor;
+  g.BookPenalty(1, calls[1], calls, false);
+  const GameSide& s = f.side(1);
+  EXPECT_EQ(s.Goalie, kFirstG);
+  EXPECT_EQ(s.BoxTicks[kFirstG], 0);
+  EXPECT_NE(g.PeriodPenalties.find("T. G 1 T01 ("), std::string::npos);
+  EXPECT_NE(g.PeriodPenalties.find(") (Served by T. "), std::string::npos);
+  int servers = 0;
+  for (int slot = 0; slot < kGameSlots; ++slot)
+    if (s.BoxTicks[static_cast<std::size_t>(slot)] == 24) {
+      ++servers;
+      EXPECT_EQ(s.Status[static_cast<std::size_t>(slot)], kInBox);
+      EXPECT_EQ(s.ServeTicks[static_cast<std::size_t>(slot)], 0);
+    }
+  EXPECT_EQ(servers, 1);
+  EXPECT_EQ(s.MenInBox, 1);
+  EXPECT_EQ(s.TeamPIM, 2);
+  EXPECT_EQ(s.PIM[kFirstG], 2);
+}
+
+TEST_F(PenaltyTest, EjectedSkaterIsNotedAndServedFor) {
+  std::array<PenaltyCall, 2> calls{};
+  PenaltyCall& c = calls[0];
+  c.offender = 4;
+  c.minutes = 5;
+  c.kind = kMajor;
+  c.extra = 10;
+  c.ejected = c.toBeSuspended = true;
+  g.BookPenalty(0, c, calls, false);
+  const GameSide& s = f.side(0);
+  EXPECT_EQ(s.Status[4], kEjectedSuspend);
+  EXPECT_EQ(s.PIM[4], 15);
+  EXPECT_EQ(s.BoxTicks[4], 0);
+  EXPECT_EQ(g.Notes.back(), "T0 L 1 ejected at 1:40 of the 1st Period<BR>");
+  EXPECT_NE(g.PeriodPenalties.find(", Game Misconduct) (Served by "), std::string::npos);
+}
+
+TEST_F(PenaltyTest, ChangeGoalieTakesTheNextDressedGoalie) {
+  GameSide& s = f.side(0);
+  s.Status[kFirstG] = kInjured;
+  g.Clock = 5;  // no note this early
+  g.ChangeGoalie(0);
+  EXPECT_EQ(s.Goalie, kFirstG + 1);
+  EXPECT_EQ(s.Status[kFirstG], kInjured);
+  EXPECT_TRUE(g.Notes.empty());
+  g.ChangeGoalie(0);  // nobody left on the bench
+  EXPECT_EQ(s.Goalie, kFirstG + 1);
+}
+
+TEST_F(PenaltyTest, FirstTwoFightsAlwaysAllowedAndThrownOutAlways) {
+  EXPECT_TRUE(g.AllowFight());
+  EXPECT_TRUE(g.AllowFight());
+  EXPECT_EQ(g.FightAllowance, 3);
+  int allowed = 0;
+  for (int i = 0; i < 200; ++i) allowed += g.AllowFight();
+  EXPECT_LT(allowed, 200);
+  for (int i = 0; i < 20; ++i) EXPECT_TRUE(g.ThrownOut(1));
+}
+
+TEST_F(PenaltyTest, EventsKeepTheBooks) {
+  for (int i = 0; i < 100; ++i) {
+    g.Clock = 100 + 30 * (i % 30);
+    g.PenaltyEvent();
+    for (int sd = 0; sd < 2; ++sd) {
+      const GameSide& s = f.side(sd);
+      int pim = 0;
+      for (int p : s.PIM) pim += p;
+      EXPECT_EQ(pim, s.TeamPIM);
+      EXPECT_NE(s.Status[s.Goalie], kOnIce);
+      for (u8 p : s.OnIce) {
+        if (p == kNoPlayer) continue;
+        EXPECT_NE(f.h.state.player(sd, p).Pos, kGoalie);
+      }
+    }
+    for (int t = 0; t < 6; ++t) g.Tick();
+  }
+  EXPECT_GT(f.side(0).TeamPIM + f.side(1).TeamPIM, 0);
+  EXPECT_FALSE(g.PeriodPenalties.empty());
+}
+
+}  // namespace
+}  // namespace kvl::test

@@ -1,0 +1,62 @@
+#include "support/sim_league.h"
+
+namespace kvl::test {
+
+void FillStandardLines(LineTable& lines) {
+  lines.cells.fill(kNoPlayer);
+  auto row = [&](int r, std::initializer_list<int> slots) {
+    int seat = 0;
+    for (int p : slots) lines.at(r, seat++) = static_cast<u8>(p);
+  };
+  constexpr int pairs[4][2] = {{12, 13}, {14, 15}, {16, 17}, {12, 13}};
+  for (int r = 0; r < 4; ++r) row(r, {r, kFirstLW + r, kFirstRW + r, pairs[r][0], pairs[r][1]});
+  row(4, {0, 4, 8, 12, 14});
+  row(5, {1, 5, 9, 13, 15});
+  row(6, {0, 4, 12, 14});
+  row(7, {1, 5, 13, 15});
+  row(8, {2, 6, 16, 17});
+  row(9, {3, 7, 12, 13});
+  row(10, {2, 16, 17});
+  row(11, {3, 14, 15});
+  row(12, {kFirstG, 3, 16});
+}
+
+LeagueSpec SimLeague(int teams, unsigned seed) {
+  LeagueSpec spec = StandardLeague(teams, seed);
+  for (auto& roster : spec.rosters) {
+    roster[18].Status = 100;
+    roster[20].Status = 200;
+  }
+  for (auto& t : spec.teams) {
+    FillStandardLines(t.Lines);
+    t.LinesOK = kTrue;
+  }
+  return spec;
+}
+
+void HireCoach(LeagueSpec& spec, int team) {
+  std::size_t t = static_cast<std::size_t>(team);
+  spec.teams[t].CoachRec = static_cast<u8>(team + 1);
+  spec.teams[t].Coach.Name = spec.coaches[t].Name;
+  spec.coaches[t].Team = static_cast<u8>(team + 1);
+}
+
+GameFixture::GameFixture(const LeagueSpec& spec, bool setup) {
+  h.state.rnd.setMasterSeed(7);
+  h.load(spec);
+  if (setup) game.SetupGame(0, 1);
+}
+
+void GameFixture::Seat(int sd, std::initializer_list<int> slots) {
+  GameSide& g = side(sd);
+  for (auto& st : g.Status)
+    if (st == kOnIce) st = kOnBench;
+  g.OnIce.fill(kNoPlayer);
+  int seat = 0;
+  for (int p : slots) {
+    g.OnIce[static_cast<std::size_t>(seat++)] = static_cast<u8>(p);
+    if (p != kNoPlayer) g.Status[static_cast<std::size_t>(p)] = kOnIce;
+  }
+}
+
+}  // namespace kvl::test

@@ -1,0 +1,46 @@
+#pragma once
+// Leagues ready to play: the standard test league with two goalies dressed and
+// a complete, legal line table for every team.
+#include <gtest/gtest.h>
+
+#include "sim/game.h"
+#include "support/league_fixture.h"
+
+namespace kvl::test {
+
+// Roster slots of the standard league: C 0-3, LW 4-7, RW 8-11, D 12-18, G 19-21.
+constexpr int kFirstLW = 4, kFirstRW = 8, kFirstD = 12, kFirstG = 19;
+
+// Fills `lines` for a standard roster: four even-strength lines, both power-play
+// and penalty-kill units, the starter in slot 19 and two spare skaters.
+void FillStandardLines(LineTable& lines);
+// StandardLeague with D 7 scratched, the second goalie dressed and lines set.
+LeagueSpec SimLeague(int teams, unsigned seed = 1);
+
+// Links coach record t + 1 of the spec to team t, as the coach check expects.
+void HireCoach(LeagueSpec& spec, int team);
+
+// A loaded league and a game over it; `setup` runs SetupGame(0, 1).
+struct GameFixture {
+  explicit GameFixture(const LeagueSpec& spec, bool setup = true);
+  Harness h;
+  Game game{h.state};
+  GameSide& side(int sd) { return game.sideOf(sd); }
+  // Puts these slots in the seats of `sd`, on the ice, the rest on the bench.
+  void Seat(int sd, std::initializer_list<int> slots);
+};
+
+// Both sides with their first lines on the ice, at `clock` of the first period.
+class SeatedGame : public testing::Test {
+ protected:
+  explicit SeatedGame(int clock = 100) : f(SimLeague(4)) {
+    f.Seat(0, {0, 4, 8, 12, 13});
+    f.Seat(1, {0, 4, 8, 12, 13});
+    g.Period = 1;
+    g.Clock = g.notedClock = clock;
+  }
+  GameFixture f;
+  Game& g = f.game;
+};
+
+}  // namespace kvl::test
