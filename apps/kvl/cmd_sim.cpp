@@ -1,8 +1,66 @@
-// Commands of this area are registered here.
+// Games: the exhibition and the calibration report.
+#include <fmt/format.h>
+
+#include "console/league_view.h"
 #include "session.h"
+#include "sim/exhibition.h"
+#include "sim/sim_profile.h"
 
 namespace kvl {
 
-void RegisterSimCommands(CLI::App&, Session&) {}
+namespace {
+
+void RegisterExhibition(CLI::App& app, Session& s) {
+  auto away = std::make_shared<std::string>();
+  auto home = std::make_shared<std::string>();
+  CLI::App* cmd = AddCommand(
+      app, s, "exhibition",
+      "Play one game between two teams; its box score goes to Transfer/ and nothing of the league changes", true,
+      [&s, away, home] {
+        int a = ResolveTeam(s.state, *away), h = ResolveTeam(s.state, *home);
+        ExhibitionResult r = PlayExhibition(s.state, a, h);
+        std::string ot = r.overtimes == 1 ? " (OT)" : r.overtimes > 1 ? fmt::format(" ({}OT)", r.overtimes) : "";
+        s.ui.print(fmt::format("{} {} {} {}{}\nBox score: {}\n", s.state.team(a).Name.str(), r.awayGoals,
+                               s.state.team(h).Name.str(), r.homeGoals, ot, r.page.string()));
+      });
+  cmd->add_option("AWAY", *away, "the visitors: team number or name")->required();
+  cmd->add_option("HOME", *home, "the home team: team number or name")->required();
+}
+
+void RegisterSimProfile(CLI::App& app, Session& s) {
+  struct Args {
+    int games = 1000;
+    std::vector<std::string> pair;
+    std::optional<int> shots, goals, penalties, injuries;
+  };
+  auto args = std::make_shared<Args>();
+  CLI::App* cmd = AddCommand(
+      app, s, "sim-profile",
+      "Play many exhibition games in memory and print the means per team and game (nothing is saved)", true,
+      [&s, args] {
+        ProfileOptions o;
+        o.games = args->games;
+        if (!args->pair.empty()) o.pair = {ResolveTeam(s.state, args->pair[0]), ResolveTeam(s.state, args->pair[1])};
+        o.shotsLevel = args->shots;
+        o.goalsLevel = args->goals;
+        o.penaltiesLevel = args->penalties;
+        o.injuriesLevel = args->injuries;
+        s.ui.print(ProfileText(RunProfile(s.state, o)));
+      });
+  cmd->add_option("--games", args->games, "how many games (default 1000)")->check(CLI::PositiveNumber);
+  cmd->add_option("--pair", args->pair, "play only AWAY at HOME")->expected(2);
+  auto level = CLI::Range(1, 9);
+  cmd->add_option("--shots-level", args->shots, "ShotsLevel for this run (1-9)")->check(level);
+  cmd->add_option("--goals-level", args->goals, "GoalsLevel for this run (1-9)")->check(level);
+  cmd->add_option("--penalties-level", args->penalties, "PenaltiesLevel for this run (1-9)")->check(level);
+  cmd->add_option("--injuries-level", args->injuries, "InjuriesLevel for this run (1-9)")->check(level);
+}
+
+}  // namespace
+
+void RegisterSimCommands(CLI::App& app, Session& s) {
+  RegisterExhibition(app, s);
+  RegisterSimProfile(app, s);
+}
 
 }  // namespace kvl
