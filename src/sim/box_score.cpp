@@ -90,7 +90,8 @@ std::string PlayerRow(const Game& g, int sd, int slot) {
     line += "Even";
   } else {
     TabTo(line, 34);
-    line += (pm > 0 ? "+" : "") + NumText(pm);
+    if (pm > 0) line += '+';
+    line += NumText(pm);
   }
   TabTo(line, 37);
   line += NumText(own.PIM[slot]);

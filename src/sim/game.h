@@ -2,7 +2,9 @@
 // A game of two teams played tick by tick: the two sides, the clock, the puck,
 // and the record of events. One object per game; the engine never prints, and
 // a state the roster rules exclude stops the game with a KvlError.
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <functional>
 #include <string>
 #include <vector>
@@ -64,8 +66,8 @@ class Game {
   int notedClock = 0;
 
   // 1 + Int(Rnd x n): n may be a fraction.
-  int Rnd(double n);
-  double Rnd();
+  int Rnd(double n) { return 1 + static_cast<int>(std::floor(s.rnd() * n)); }
+  double Rnd() { return s.rnd(); }
 
   Player& player(int sd, int slot) { return s.player(sd, slot); }
   float scaled(int sd, int rating, int slot) const {
@@ -84,8 +86,19 @@ class Game {
   void SetLine(int sd, int line);
   u8 ChooseSubstitute(int sd, int slot, int seat);
   void NextLine(int sd, int opponent);
-  int ManDifference(int a, int b) const;
-  int MeanEnergy(int sd) const;
+  // Positive when a is short.
+  int ManDifference(int a, int b) const { return std::clamp(sideOf(a).MenInBox - sideOf(b).MenInBox, -2, 2); }
+  int MeanEnergy(int sd) const {
+    const GameSide& g = sideOf(sd);
+    double sum = 0;
+    int count = 0;
+    for (u8 p : g.OnIce)
+      if (p != kNoPlayer) {
+        sum += g.Energy[p];
+        ++count;
+      }
+    return count == 0 ? 0 : static_cast<int>(std::floor(sum / count));
+  }
 
   // Play.
   void PlayGame(int away, int home);
@@ -133,7 +146,8 @@ class Game {
   // Hits and injuries in play.
   void Hits();
   void whogothit();
-  bool TryInjury(int sd, u8 slot, const std::string& clock);
+  // `clock`: the game time noted for the event.
+  bool TryInjury(int sd, u8 slot, int clock);
 
   // The record.
   void EndPeriod();

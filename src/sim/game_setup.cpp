@@ -32,9 +32,6 @@ double Pow(float x, double e) { return std::pow(static_cast<double>(x), e); }
 
 Game::Game(LeagueState& state, GameOptions options) : s(state), opt(std::move(options)) {}
 
-int Game::Rnd(double n) { return 1 + static_cast<int>(std::floor(s.rnd() * n)); }
-double Game::Rnd() { return s.rnd(); }
-
 void Game::Stop(const std::string& why) const { throw KvlError("Game stopped: " + why); }
 
 void Game::SetupGame(int away, int home) {
@@ -77,6 +74,7 @@ void Game::PrepareSide(int sd) {
   for (int slot = 0; slot < kGameSlots; ++slot) {
     const Player& p = player(sd, slot);
     g.Status[slot] = kNotDressed;
+    if (p.empty()) continue;  // an empty slot's ratings are all 0 and stay so
     for (int i = 0; i < kRatingCount; ++i)
       g.Scaled[i][slot] = static_cast<float>(p.rating(i) * (p.Condition / 100.0) / 10);
     if (!coach) continue;
@@ -121,6 +119,10 @@ void Game::PrepareSide(int sd) {
       if (g.Scaled[kStr][slot] > 7.9f) ++c;
     }
     g.Checking[slot] = c;
+  }
+  // Only dressed players ever take a seat.
+  for (int i = 0; i < g.dressedCount; ++i) {
+    u8 slot = g.dressed[i];
     g.offenseRating[slot] = OffenseRating(player(sd, slot));
     g.defenseRating[slot] = DefenseRating(player(sd, slot));
     ComputeTerms(sd, slot);
@@ -157,7 +159,11 @@ void Game::ComputeTerms(int sd, int slot) {
   t.stopD = Pow(def, 1.8);
   t.keepMain = Pow(str, 1.7) + 1.5 * spd + 1.7 * pas + 1.8 * pcc;
   t.scrambleMain = 3.0 * in + 2.0 * str + 4.0 * ska + 4.0 * def;
-  t.endurance = r(kEnd);
+  t.faceoff = Pow(in, 1.7) + Pow(spd, 1.4) + Pow(pcc, 1.9) + Pow(def, 1.9);
+  t.cover = 35 + Pow(in, 1.7) + Pow(str, 1.5) + Pow(def, 1.7);
+  g.endurance[slot] = r(kEnd);
+  g.recovery[slot] = g.endurance[slot] / 8;
+  g.energyCap[slot] = player(sd, slot).Condition;
 }
 
 void Game::SetLine(int sd, int line) {
@@ -165,8 +171,10 @@ void Game::SetLine(int sd, int line) {
   int opponent = other(sd);
   double toughness = 0, discipline = 0, durability = 0;
   g.LineToughness = g.LineDiscipline = g.LineDurability = g.LineChecking = 0;
-  for (int i = 0; i < g.dressedCount; ++i)
-    if (g.Status[g.dressed[i]] == kOnIce) g.Status[g.dressed[i]] = kOnBench;
+  // Only a seated player is on the ice.
+  for (u8 p : g.OnIce)
+    if (p != kNoPlayer && g.Status[p] == kOnIce) g.Status[p] = kOnBench;
+  const int d = ManDifference(opponent, sd);
   int count = 0;
   for (int seat = 0; seat < kSeats; ++seat) {
     u8 p = g.Lines[seat][line];
@@ -187,7 +195,6 @@ void Game::SetLine(int sd, int line) {
     g.LineDiscipline = discipline = CByte(discipline + r(kDis));
     g.LineDurability = durability = CByte(durability + r(kStr) + 2 * r(kDur));
     g.LineChecking = CByte(g.LineChecking + g.Checking[p]);
-    int d = ManDifference(opponent, sd);
     if (d < 0) {
       g.Defensive[p] = -1;
     } else if (d == 0) {
@@ -257,20 +264,6 @@ void Game::NextLine(int sd, int opponent) {
   g.CurrentLine = static_cast<u8>(line);
 }
 
-int Game::ManDifference(int a, int b) const {
-  return std::clamp(sideOf(a).MenInBox - sideOf(b).MenInBox, -2, 2);
-}
 
-int Game::MeanEnergy(int sd) const {
-  const GameSide& g = sideOf(sd);
-  double sum = 0;
-  int count = 0;
-  for (u8 p : g.OnIce)
-    if (p != kNoPlayer) {
-      sum += g.Energy[p];
-      ++count;
-    }
-  return count == 0 ? 0 : static_cast<int>(std::floor(sum / count));
-}
 
 }  // namespace kvl

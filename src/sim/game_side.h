@@ -33,7 +33,8 @@ struct SlotTerms {
   double stopMain = 0, stopDefensive = 0, stopD = 0;
   double keepMain = 0;
   double scrambleMain = 0;
-  double endurance = 0;  // Scaled End, for the tick's energy
+  double faceoff = 0;
+  double cover = 0;      // a defenceman's part of the cover in front of his goalie
 };
 
 struct GameSide {
@@ -79,12 +80,18 @@ struct GameSide {
   // Working values of this program beyond the side record.
   int team = 0;
   std::array<SlotTerms, kGameSlots> terms{};
+  // What a tick does to energy: Scaled End, the gain per tick on the bench,
+  // and the most he gets back there (his Condition).
+  std::array<double, kGameSlots> endurance{}, recovery{}, energyCap{};
   std::array<int, kGameSlots> offenseRating{}, defenseRating{};
   std::array<u8, kGameSlots> dressed{};  // dressed slots in ascending order
   int dressedCount = 0;
   bool goalieHurt = false;  // an injury replaced the goalie
   int goalieHurtScore = 0;  // this side's goals when that happened
   u8 lastHurt = kNoPlayer;
+  // Somebody may have box time left: set with BoxTicks or ServeTicks, cleared
+  // by the tick that finds none, so most ticks skip the box.
+  bool boxWatch = false;
   u8 ChainCount = 0;
   int injuries = 0;
 };

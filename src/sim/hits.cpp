@@ -55,7 +55,7 @@ void Game::whogothit() {
   att.Energy[victim] = static_cast<float>(att.Energy[victim] - (11 - player(Attacker, victim).rating(kSka) / 10));
 }
 
-bool Game::TryInjury(int sd, u8 slot, const std::string& clock) {
+bool Game::TryInjury(int sd, u8 slot, int clock) {
   if (!s.league.OptInjuries) return false;
   GameSide& g = sideOf(sd);
   if (slot == kNoPlayer) {
@@ -76,7 +76,7 @@ bool Game::TryInjury(int sd, u8 slot, const std::string& clock) {
     g.goalieHurt = true;
     g.goalieHurtScore = g.Goals;
   }
-  AddNote(PlayerName(sd, slot) + " injured at " + clock + " of the " + OrdinalPeriod(Period) + "<BR>");
+  AddNote(PlayerName(sd, slot) + " injured at " + ClockText(clock) + " of the " + OrdinalPeriod(Period) + "<BR>");
   g.lastHurt = slot;
   ++g.injuries;
   return true;

@@ -15,11 +15,10 @@ constexpr int kMaxRedraws = 100000;
 
 void Game::PenaltyEvent() {
   notedClock = Clock;
-  const std::string clock = ClockText(Clock);
   const int base = (5 - s.league.InjuriesLevel()) * 5 + 50;
   std::array<PenaltyCall, 2> calls{};
   for (int sd = 0; sd < 2; ++sd)
-    if (Rnd(base - sideOf(sd).LineToughness) == 1) calls[sd].injuryCaused = TryInjury(sd, kNoPlayer, clock);
+    if (Rnd(base - sideOf(sd).LineToughness) == 1) calls[sd].injuryCaused = TryInjury(sd, kNoPlayer, notedClock);
   int count = 0;
   bool hardPlay = false;
   for (int sd = 0; sd < 2; ++sd) OffencePass(sd, calls, count, hardPlay);
@@ -118,7 +117,7 @@ void Game::Fight(std::array<PenaltyCall, 2>& calls) {
   int winner = f[0] > f[1] ? 0 : 1, loser = other(winner);
   u8 w = calls[winner].offender, l = calls[loser].offender;
   AddNote(PlayerName(winner, w) + " beats up " + PlayerName(loser, l) + "<BR>");
-  if (TryInjury(loser, l, ClockText(notedClock))) {
+  if (TryInjury(loser, l, notedClock)) {
     PenaltyCall& c = calls[winner];
     c.ejected = ThrownOut(winner);
     c.extra = 10;
@@ -151,6 +150,7 @@ void Game::BookPenalty(int sd, PenaltyCall& c, const std::array<PenaltyCall, 2>&
     g.BoxTicks[o] = g.ServeTicks[o] = c.minutes * kTicksPerMinute;
     g.PenaltyKind[o] = static_cast<u8>(c.kind);
   }
+  g.boxWatch = true;
   if (!PeriodPenalties.empty()) PeriodPenalties += ", ";
   PeriodPenalties += text;
   ++g.MenInBox;
@@ -198,7 +198,8 @@ std::string Game::PenaltyText(int sd, const PenaltyCall& c, bool otherHurt, bool
 }
 
 // Someone off the ice sits in the box: a man of the current line if one is on
-// the bench, else anyone from the bench.
+// the bench, else any skater from the bench. Never a goalie: out of the box he
+// may jump straight into a skater's seat.
 u8 Game::PickServer(int sd, u8 offender) {
   const GameSide& g = sideOf(sd);
   std::array<u8, kGameSlots> pool{};
@@ -210,7 +211,7 @@ u8 Game::PickServer(int sd, u8 offender) {
   if (n == 0)
     for (int i = 0; i < g.dressedCount; ++i) {
       u8 p = g.dressed[i];
-      if (p != offender && p != g.Goalie && g.Status[p] == kOnBench) pool[static_cast<std::size_t>(n++)] = p;
+      if (p != offender && player(sd, p).Pos != kGoalie && g.Status[p] == kOnBench) pool[static_cast<std::size_t>(n++)] = p;
     }
   if (n == 0) Stop("nobody left to serve a penalty for " + TeamName(sd));
   return pool[static_cast<std::size_t>(Rnd(n) - 1)];

@@ -74,9 +74,7 @@ bool Game::EndOfPeriodRules() {
 void Game::FaceOff() {
   auto strength = [&](int sd) {
     u8 c = sideOf(sd).OnIce[0];
-    if (c == kNoPlayer) return 0.0;
-    auto r = [&](int rating) { return static_cast<double>(scaled(sd, rating, c)); };
-    return std::pow(r(kInt), 1.7) + std::pow(r(kSpd), 1.4) + std::pow(r(kPcc), 1.9) + std::pow(r(kDef), 1.9);
+    return c == kNoPlayer ? 0.0 : sideOf(sd).terms[c].faceoff;
   };
   double s0 = strength(Attacker), s1 = strength(Defender);
   int r = Rnd(std::floor(s0 + s1));
@@ -105,7 +103,7 @@ void Game::BattleForPuck() {
 
 void Game::MovePuck() {
   double d = 3.0 * StopSum(Defender) + 1600 - 1600 * ManDifference(Defender, Attacker) + 100 * Defender;
-  int a = CInt(2.0 * MoveSum(Attacker) + 1400 - 1600 * ManDifference(Attacker, Defender));
+  int a = 2 * MoveSum(Attacker) + 1400 - 1600 * ManDifference(Attacker, Defender);
   int ba = static_cast<int>(std::floor(a * 0.97));
   int r = Rnd(d + a);
   // A short side in its own end clears before the draw is looked at.
@@ -177,21 +175,34 @@ void Game::TickSide(int sd) {
   GameSide& g = sideOf(sd);
   const double wear = sideOf(other(sd)).LineToughness / 4.0 + 13;
   g.IceTime[g.Goalie] = static_cast<i16>(g.IceTime[g.Goalie] + 5);
-  g.MenInBox = 0;
-  // Only dressed players can be in the box or on the ice.
-  for (int i = 0; i < g.dressedCount; ++i) {
-    u8 slot = g.dressed[i];
-    if (g.BoxTicks[slot] > 0) {
-      if (--g.BoxTicks[slot] > 0) ++g.MenInBox;
-      else PenaltyOver(sd, slot);
+  // Box time first: it changes no one's energy but his own status. Only
+  // dressed players can be in the box or on the ice.
+  const int dressed = g.dressedCount;
+  int inBox = 0;
+  bool watch = false;
+  for (int i = 0; i < (g.boxWatch ? dressed : 0); ++i) {
+    const int slot = g.dressed[static_cast<std::size_t>(i)];
+    int& box = g.BoxTicks[static_cast<std::size_t>(slot)];
+    if (box > 0) {
+      if (--box > 0) ++inBox;
+      else PenaltyOver(sd, static_cast<u8>(slot));
     }
-    if (g.ServeTicks[slot] > 0 && --g.ServeTicks[slot] == 0 && g.Status[slot] < kInjured) g.Status[slot] = kOnBench;
-    const double end = g.terms[slot].endurance;
-    if (g.Status[slot] == kOnIce) {
-      g.Energy[slot] = static_cast<float>(g.Energy[slot] - (wear - end) / 12);
+    int& serve = g.ServeTicks[static_cast<std::size_t>(slot)];
+    if (serve > 0 && --serve == 0 && g.Status[static_cast<std::size_t>(slot)] < kInjured)
+      g.Status[static_cast<std::size_t>(slot)] = kOnBench;
+    watch = watch || box > 0 || serve > 0;
+  }
+  g.boxWatch = watch;
+  g.MenInBox = static_cast<u8>(inBox);
+  for (int i = 0; i < dressed; ++i) {
+    const std::size_t slot = g.dressed[static_cast<std::size_t>(i)];
+    const i16 status = g.Status[slot];
+    const double energy = g.Energy[slot];
+    if (status == kOnIce) {
+      g.Energy[slot] = static_cast<float>(energy - (wear - g.endurance[slot]) / 12);
       g.IceTime[slot] = static_cast<i16>(g.IceTime[slot] + 5);
-    } else if (g.Status[slot] == kOnBench) {
-      g.Energy[slot] = static_cast<float>(std::min(g.Energy[slot] + end / 8, static_cast<double>(player(sd, slot).Condition)));
+    } else if (status == kOnBench && energy < g.energyCap[slot]) {
+      g.Energy[slot] = static_cast<float>(std::min(energy + g.recovery[slot], g.energyCap[slot]));
     }
   }
   if (MeanEnergy(sd) < 90 && InDefensiveZone(sd) != 1) NextLine(sd, other(sd));

@@ -15,6 +15,9 @@ class RosterCache {
   using Roster = std::array<Player, kRosterSlots>;
   // Reads every team through loadteam; the player buffer is left as it was.
   explicit RosterCache(LeagueState& s);
+  // Rosters and coaches (record n at index n - 1) made in memory.
+  RosterCache(std::vector<Roster> rosters, std::vector<Coach> coaches)
+      : rosters_(std::move(rosters)), coaches_(std::move(coaches)) {}
   const Roster& roster(int team) const { return rosters_.at(static_cast<std::size_t>(team)); }
   // The coach at a 1-based record number; nullopt past the end of the file.
   std::optional<Coach> coach(int record) const;

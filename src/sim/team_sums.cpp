@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "sim/game.h"
-#include "util/numbers.h"
 
 namespace kvl {
 
@@ -11,7 +10,10 @@ int Game::LapseOdds(int sd) const {
   const GameSide& own = sideOf(sd);
   const GameSide& opp = sideOf(other(sd));
   int n = 20;
-  auto halve = [&n] { n = CInt(n / 2.0); };
+  auto halve = [&n] {  // to the nearest whole, ties to even: 5 halves to 2
+    int q = n / 2;
+    n = n % 2 != 0 && q % 2 != 0 ? q + 1 : q;
+  };
   if (ManDifference(sd, other(sd)) != 0) halve();
   if (InOvertime) halve();
   if (opp.Goals == 0 && Period == 3) halve();
@@ -99,9 +101,7 @@ int Game::CoverSum(int sd) const {
   const GameSide& g = sideOf(sd);
   double sum = 0;
   for (u8 p : g.OnIce) {
-    if (p == kNoPlayer || s.player(sd, p).Pos != kDefence) continue;
-    auto r = [&](int rating) { return static_cast<double>(g.Scaled[rating][p]); };
-    sum += 35 + std::pow(r(kInt), 1.7) + std::pow(r(kStr), 1.5) + std::pow(r(kDef), 1.7);
+    if (p != kNoPlayer && s.player(sd, p).Pos == kDefence) sum += g.terms[p].cover;
   }
   return Floor(sum / 2);
 }

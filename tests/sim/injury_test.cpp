@@ -70,6 +70,7 @@ TEST_F(InjuryTest, DurablePlayerShrugsItOff) {
 }
 
 TEST_F(InjuryTest, FragilePlayerFallsBackToDayToDay) {
+  RemoveIfExists(f.h.state.AppPath / "inj.dtf");  // no texts: the plain one
   Player& p = P(5);
   p.rating(kDur) = 0;  // walks all the way up, then falls back
   f.h.state.team(0).LinesOK = kTrue;
@@ -82,6 +83,7 @@ TEST_F(InjuryTest, FragilePlayerFallsBackToDayToDay) {
 }
 
 TEST_F(InjuryTest, TextComesFromTheInjuryFileByClass) {
+  RemoveIfExists(f.h.state.AppPath / "inj.dtf");
   RecordFile file(f.h.state.AppPath / "inj.dtf", InjuryText::kSize);
   auto put = [&](std::size_t n, const char* text, int c) {
     InjuryText t;
@@ -105,7 +107,7 @@ TEST_F(InjuryTest, NoInjuriesWhenTheOptionIsOff) {
   f.h.state.league.OptInjuries = kFalse;
   f.game.Period = 1;
   P(4).rating(kDur) = 0;
-  for (int i = 0; i < 100; ++i) EXPECT_FALSE(f.game.TryInjury(0, 4, "1:00"));
+  for (int i = 0; i < 100; ++i) EXPECT_FALSE(f.game.TryInjury(0, 4, 60));
   EXPECT_EQ(f.side(0).Status[4], kOnIce);
 }
 
@@ -113,7 +115,7 @@ TEST_F(InjuryTest, HurtGoalieIsReplacedAndNoted) {
   GameSide& s = f.side(0);
   f.game.Period = 2;
   P(kFirstG).rating(kDur) = 0;
-  ASSERT_TRUE(f.game.TryInjury(0, kFirstG, "4:05"));
+  ASSERT_TRUE(f.game.TryInjury(0, kFirstG, 245));
   EXPECT_EQ(s.Status[kFirstG], kInjured);
   EXPECT_EQ(s.Goalie, kFirstG + 1);
   EXPECT_TRUE(s.goalieHurt);

@@ -17,6 +17,7 @@ TEST_F(PenaltyTest, SelfServedMinorReturnsToTheBenchWhenItEnds) {
   s.Status[5] = kInBox;
   s.BoxTicks[5] = s.ServeTicks[5] = 24;
   s.PenaltyKind[5] = kMinor;
+  s.boxWatch = true;
   for (int i = 0; i < 23; ++i) g.Tick();
   EXPECT_EQ(s.MenInBox, 1);
   EXPECT_EQ(s.Status[5], kInBox);
@@ -29,6 +30,7 @@ TEST_F(PenaltyTest, SelfServedMinorReturnsToTheBenchWhenItEnds) {
 TEST_F(PenaltyTest, BoxTimeRunsOnlyWhileTheClockDoes) {
   GameSide& s = f.side(0);
   s.BoxTicks[5] = 10;
+  s.boxWatch = true;
   g.Clock = 1196;
   g.Tick();  // to 1201: the rest of the tick is skipped
   EXPECT_EQ(s.BoxTicks[5], 10);
@@ -164,6 +166,7 @@ TEST_F(PenaltyTest, GoaliePenaltyIsServedBySomebodyElse) {
   for (int slot = 0; slot < kGameSlots; ++slot)
     if (s.BoxTicks[static_cast<std::size_t>(slot)] == 24) {
       ++servers;
+      EXPECT_NE(f.h.state.player(1, slot).Pos, kGoalie);  // the backup would jump into a skater's seat
       EXPECT_EQ(s.Status[static_cast<std::size_t>(slot)], kInBox);
       EXPECT_EQ(s.ServeTicks[static_cast<std::size_t>(slot)], 0);
     }
