@@ -14,10 +14,10 @@ namespace {
 class SliderOverride {
  public:
   SliderOverride(League& lg, const ProfileOptions& o) : lg_(lg), saved_(lg.Slider) {
+    for (const auto& v : {o.shotsLevel, o.goalsLevel, o.penaltiesLevel, o.injuriesLevel})
+      if (v && (*v < 1 || *v > 9)) throw KvlError("a slider level must be from 1 to 9");
     auto set = [](u8& slider, const std::optional<int>& v) {
-      if (!v) return;
-      if (*v < 1 || *v > 9) throw KvlError("a slider level must be from 1 to 9");
-      slider = static_cast<u8>(*v);
+      if (v) slider = static_cast<u8>(*v);
     };
     set(lg.ShotsLevel(), o.shotsLevel);
     set(lg.GoalsLevel(), o.goalsLevel);

@@ -1,0 +1,62 @@
+// The calibration run: sliders for the run only, and what they move.
+#include "sim/sim_profile.h"
+
+#include <gtest/gtest.h>
+
+#include "support/sim_league.h"
+
+namespace kvl::test {
+namespace {
+
+TEST(SimProfile, SlidersMoveShotsAndGoalsAndAreRestored) {
+  GameFixture f(SimLeague(6), false);
+  LeagueState& s = f.h.state;
+  s.rnd.setMasterSeed(11);
+  auto run = [&](int shots, int goals) {
+    ProfileOptions o;
+    o.games = 100;
+    o.shotsLevel = shots;
+    o.goalsLevel = goals;
+    return RunProfile(s, o);
+  };
+  ProfileTotals low = run(1, 5), high = run(9, 5);
+  EXPECT_EQ(low.games, 100);
+  EXPECT_EQ(high.sliders[1], 9);
+  EXPECT_GT(high.shots, low.shots + 100);  // about 3 shots a team and game apart
+  ProfileTotals fewGoals = run(5, 1), manyGoals = run(5, 9);
+  EXPECT_GT(manyGoals.goals, fewGoals.goals);
+  EXPECT_EQ(s.league.ShotsLevel(), 5);
+  EXPECT_EQ(s.league.GoalsLevel(), 5);
+  EXPECT_FALSE(s.Dirty);
+}
+
+TEST(SimProfile, RefusesATeamAgainstItselfAndBadLevels) {
+  GameFixture f(SimLeague(4), false);
+  ProfileOptions o;
+  o.pair = {1, 1};
+  EXPECT_THROW(RunProfile(f.h.state, o), KvlError);
+  o.pair.reset();
+  o.shotsLevel = 7;
+  o.goalsLevel = 0;
+  EXPECT_THROW(RunProfile(f.h.state, o), KvlError);
+  EXPECT_EQ(f.h.state.league.ShotsLevel(), 5);
+}
+
+TEST(SimProfile, TextShowsMeansPerTeamAndGame) {
+  ProfileTotals t;
+  t.sliders = {5, 7, 5, 3, 5};
+  t.games = 2;
+  t.overtimeGames = 1;
+  t.shots = 116;  // 29 a team and game
+  t.goals = 12;
+  t.saves = 104;
+  std::string text = ProfileText(t);
+  EXPECT_NE(text.find("2 games; ShotsLevel 7, GoalsLevel 3, PenaltiesLevel 5, InjuriesLevel 5"), std::string::npos);
+  EXPECT_NE(text.find("  Shots                29.00\n"), std::string::npos);
+  EXPECT_NE(text.find("  Goals                 3.00\n"), std::string::npos);
+  EXPECT_NE(text.find("  Save percentage      0.897\n"), std::string::npos);
+  EXPECT_NE(text.find("  Overtime games       50.0%\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace kvl::test
