@@ -7,6 +7,7 @@
 #include "sim/byte_round.h"
 #include "sim/game.h"
 #include "sim/roster_cache.h"
+#include "team/auto_roster.h"
 
 namespace kvl {
 
@@ -62,8 +63,7 @@ void Game::LoadSide(int sd, int teamIndex) {
     loadteam(s, teamIndex, sd);
   }
   s.CurTeam = static_cast<u8>(teamIndex);
-  // The automatic roster and lines belong to the team tools; a game needs a set table.
-  if (!s.team(teamIndex).LinesOK) Stop("the lines of " + s.team(teamIndex).Name.str() + " are not set");
+  if (!s.team(teamIndex).LinesOK) AutoRoster(s, teamIndex, sd);
 }
 
 void Game::PrepareSide(int sd) {

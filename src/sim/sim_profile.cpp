@@ -3,7 +3,9 @@
 #include <fmt/format.h>
 
 #include "sim/game.h"
+#include "league/league_files.h"
 #include "sim/roster_cache.h"
+#include "team/auto_roster.h"
 #include "util/error.h"
 
 namespace kvl {
@@ -66,6 +68,13 @@ ProfileTotals RunProfile(LeagueState& s, const ProfileOptions& o) {
   if (o.pair && (o.pair->first == o.pair->second)) throw KvlError("a team cannot play itself");
   SliderOverride sliders(s.league, o);
   bool dirty = s.Dirty;
+  // Teams without lines get them now, as before their next game, so that the
+  // rosters read once match the lines.
+  for (int t = 0; t < s.numTeams(); ++t)
+    if (!s.team(t).LinesOK) {
+      loadteam(s, t, 0);
+      AutoRoster(s, t, 0);
+    }
   RosterCache cache(s);
   GameOptions opt;
   opt.isExhibition = true;

@@ -195,11 +195,16 @@ TEST(WholeGame, AfterGameStepRunsOutsideExhibitions) {
   EXPECT_FALSE(f.h.state.Dirty);
 }
 
-TEST(WholeGame, LinesNotSetStopTheGame) {
+TEST(WholeGame, TeamWithoutLinesGetsThemFirst) {
   LeagueSpec spec = SimLeague(4);
   spec.teams[1].LinesOK = kFalse;
+  spec.teams[1].Lines.cells.fill(kNoPlayer);
   GameFixture f(spec, false);
-  EXPECT_THROW(Game(f.h.state).PlayGame(0, 1), KvlError);
+  Game g(f.h.state);
+  g.PlayGame(0, 1);
+  EXPECT_TRUE(f.h.state.team(1).LinesOK);
+  EXPECT_NE(f.h.state.team(1).Lines.at(kGoalieRow, 0), kNoPlayer);
+  EXPECT_GE(g.sideOf(1).Shots, 1);
 }
 
 }  // namespace
