@@ -2,6 +2,7 @@
 #include <fmt/format.h>
 
 #include "admin/league_creation.h"
+#include "console/demo.h"
 #include "console/league_view.h"
 #include "console/main_console.h"
 #include "console/startup.h"
@@ -96,6 +97,32 @@ void RegisterEditDraftPicks(CLI::App& app, Session& s) {
       ->required();
 }
 
+struct DemoArgs {
+  int teams = 24;
+  std::optional<std::uint64_t> seed;
+};
+
+// The demo's seed: its own --seed, else the run's, else 1, so that a plain
+// `kvl demo` always makes the same league.
+std::uint64_t DemoSeed(CLI::App& root, const DemoArgs& a) {
+  if (a.seed) return *a.seed;
+  const CLI::Option* global = root.get_option_no_throw("--seed");
+  return global && global->count() > 0 ? global->as<std::uint64_t>() : 1;
+}
+
+void RegisterDemo(CLI::App& app, Session& s) {
+  auto a = std::make_shared<DemoArgs>();
+  CLI::App* cmd = AddCommand(app, s, "demo",
+                             "Make the league Demo in the home folder from the bundled data: aligned, filled, "
+                             "coached, rosters and lines set, saved",
+                             false, [&s, &app, a] {
+                               DemoSummary d = RunDemo(s.state, {a->teams, DemoSeed(app, *a)});
+                               s.ui.print(DemoSummaryText(s.state, d));
+                             });
+  cmd->add_option("--teams", a->teams, "teams in the league, 8 to 50 (default 24)")->check(CLI::Range(kDemoMinTeams, kDemoMaxTeams));
+  cmd->add_option("--seed", a->seed, "the seed of the league's draws (default: the run's --seed, else 1)");
+}
+
 }  // namespace
 
 void RegisterAdminCommands(CLI::App& app, Session& s) {
@@ -103,6 +130,7 @@ void RegisterAdminCommands(CLI::App& app, Session& s) {
   RegisterMakeDefaultData(app, s);
   RegisterAssignUnused(app, s);
   RegisterEditDraftPicks(app, s);
+  RegisterDemo(app, s);
 }
 
 }  // namespace kvl
