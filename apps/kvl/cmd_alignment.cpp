@@ -1,13 +1,18 @@
 // League administration on the command line: align, options, and the team and
 // player cards.
+#include <algorithm>
+#include <cctype>
 #include <memory>
 
 #include "admin/alignment.h"
 #include "admin/options.h"
 #include "console/league_view.h"
 #include "console/menu.h"
+#include "league/league_files.h"
 #include "session.h"
+#include "team/cards.h"
 #include "ui/ui.h"
+#include "util/cp1252.h"
 #include "util/error.h"
 
 namespace kvl {
@@ -35,7 +40,9 @@ struct AlignArgs {
   std::shared_ptr<int> conf = std::make_shared<int>(0), div = std::make_shared<int>(0), count = std::make_shared<int>(0);
   std::shared_ptr<std::string> name = std::make_shared<std::string>();
   std::shared_ptr<bool> clear = std::make_shared<bool>(false);
-  std::optional<std::string> givenName() const { return name->empty() ? std::nullopt : std::optional(*name); }
+  std::optional<std::string> givenName() const {
+    return name->empty() ? std::nullopt : std::optional(Utf8ToCp1252(*name));
+  }
 };
 
 void AddTeamArg(CLI::App* cmd, const AlignArgs& a) {
@@ -101,7 +108,7 @@ void RegisterOptions(CLI::App& app, Session& s) {
         s.ui.tell("Give each option as NAME=VALUE, such as ShotsLevel=6.", "Options");
         throw Refused("no value");
       }
-      form.set(setting.substr(0, eq), setting.substr(eq + 1));
+      form.set(setting.substr(0, eq), Utf8ToCp1252(setting.substr(eq + 1)));
     }
     if (!sets->empty()) form.cmdApply();
     s.ui.print(Options(s.state).Listing());
@@ -109,10 +116,101 @@ void RegisterOptions(CLI::App& app, Session& s) {
   cmd->add_option("--set", *sets, "NAME=VALUE, e.g. ShotsLevel=6 or OptMoney=on; the names are those the listing shows");
 }
 
+// What the card commands take besides the team: edits by name, with or without a value.
+struct CardArgs {
+  std::shared_ptr<std::string> team = std::make_shared<std::string>();
+  std::shared_ptr<int> slot = std::make_shared<int>(0);
+  std::shared_ptr<std::vector<std::string>> sets = std::make_shared<std::vector<std::string>>();
+  std::shared_ptr<std::vector<std::string>> edits = std::make_shared<std::vector<std::string>>();
+  std::shared_ptr<bool> hand = std::make_shared<bool>(false), rookie = std::make_shared<bool>(false),
+                        release = std::make_shared<bool>(false);
+};
+
+void AddEditOptions(CLI::App* cmd, const CardArgs& a, const std::string& names) {
+  cmd->add_option("--set", *a.sets, "FIELD=VALUE, as if typed at the field's prompt; fields: " + names);
+  cmd->add_option("--edit", *a.edits, "FIELD: click the field, which prompts for its value");
+}
+
+template <class Field>
+std::string FieldNames(const std::vector<Field>& fields) {
+  std::string out;
+  for (const auto& f : fields) out += (out.empty() ? "" : ", ") + f.name;
+  return out;
+}
+
+template <class Field>
+const Field& FindField(Session& s, const std::vector<Field>& fields, const std::string& name, const char* title) {
+  auto lower = [](std::string x) {
+    for (auto& c : x) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return x;
+  };
+  for (const auto& f : fields)
+    if (lower(f.name) == lower(name)) return f;
+  s.ui.tell("There is no field \"" + name + "\" on this card. The fields are: " + FieldNames(fields) + ".", title);
+  throw Refused("no such field");
+}
+
+// --set FIELD=VALUE and --edit FIELD, in that order, on either card.
+template <class Card, class Field>
+void ApplyEdits(Session& s, Card& card, const std::vector<Field>& fields, const CardArgs& a, const char* title) {
+  for (const auto& setting : *a.sets) {
+    auto eq = setting.find('=');
+    const Field& f = FindField(s, fields, setting.substr(0, eq), title);
+    card.edit(f, Utf8ToCp1252(eq == std::string::npos ? "" : setting.substr(eq + 1)));
+  }
+  for (const auto& name : *a.edits) card.edit(FindField(s, fields, name, title));
+}
+
+// Loads the team into side 0 as the cards expect it, as CurTeam.
+int OpenTeam(Session& s, const std::string& arg) {
+  int t = ResolveTeam(s.state, arg);
+  loadteam(s.state, t, 0);
+  s.state.CurTeam = static_cast<u8>(t);
+  return t;
+}
+
+void RegisterCards(CLI::App& app, Session& s) {
+  CardArgs a;
+  auto* team = AddCommand(app, s, "view-team", "Show a team's card, with its revenue estimate, and edit its fields", true,
+                          [&s, a] {
+                            OpenTeam(s, *a.team);
+                            TeamCard card(s.state, 0);
+                            ApplyEdits(s, card, TeamFields(), a, "View Team");
+                            s.ui.print(card.Text());
+                            card.Close();
+                          });
+  team->add_option("TEAM", *a.team, "the team, by number, name or abbreviation")->required();
+  AddEditOptions(team, a, FieldNames(TeamFields()) + " (CurFin adds to the cash: -$5000 deducts)");
+
+  CardArgs b;
+  auto* player = AddCommand(app, s, "player", "Show a player's card and edit its fields", true, [&s, b] {
+    int t = OpenTeam(s, *b.team);
+    if (*b.slot >= kRosterSlots || s.state.player(0, *b.slot).empty()) {
+      s.ui.tell("Slot " + std::to_string(*b.slot) + " of " + s.state.team(t).Name.str() + " holds no player.", "Edit Player");
+      throw Refused("empty slot");
+    }
+    s.state.CurPlayer = static_cast<u8>(*b.slot);
+    PlayerCard card(s.state, 0);
+    ApplyEdits(s, card, PlayerFields(), b, "Edit Player");
+    if (*b.hand) card.lblHD();
+    if (*b.rookie) card.lblExp();
+    if (*b.release) card.cmdRelease();
+    s.ui.print(card.Text());
+    card.Close();
+  });
+  player->add_option("TEAM", *b.team, "the team, by number, name or abbreviation")->required();
+  player->add_option("SLOT", *b.slot, "the roster slot, 0 to 49")->required()->check(CLI::Range(0, kRosterSlots - 1));
+  AddEditOptions(player, b, FieldNames(PlayerFields()));
+  player->add_flag("--hand", *b.hand, "switch the shooting hand between L and R");
+  player->add_flag("--rookie", *b.rookie, "switch between rookie and veteran");
+  player->add_flag("--release", *b.release, "mark the player for release (asks first); the roster editor releases him");
+}
+
 }  // namespace
 
 void RegisterAlignmentCommands(CLI::App& app, Session& s) {
   RegisterOptions(app, s);
+  RegisterCards(app, s);
   CLI::App* align = app.add_subcommand("align", "Align the league: add, delete, rename, move teams, divisions, expansion");
   align->require_subcommand(1);
   RegisterAlignEdits(align, s);

@@ -32,9 +32,7 @@ std::string Lower(std::string s) {
 // The Val of a box as the whole number stored, or `old` when it falls outside the field.
 template <class T>
 T Bounded(const std::string& text, T old) {
-  double v = std::nearbyint(Val(text));
-  if (v < std::numeric_limits<T>::min() || v > std::numeric_limits<T>::max()) return old;
-  return static_cast<T>(v);
+  return static_cast<T>(WholeIn(text, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()).value_or(old));
 }
 
 std::optional<bool> ParseTick(const std::string& value) {

@@ -118,6 +118,12 @@ double Val(std::string_view text) {
   return v;
 }
 
+std::optional<double> WholeIn(std::string_view text, double low, double high) {
+  double v = std::nearbyint(Val(text));
+  if (!(v >= low && v <= high)) return std::nullopt;
+  return v;
+}
+
 std::string NumText(double x) {
   if (x == 0.0) return "0";
   char buf[40];

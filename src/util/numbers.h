@@ -1,6 +1,7 @@
 #pragma once
 // The old platform's number conversions and format masks, with its results.
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,9 @@ std::int16_t CInt(double x);
 // sign, digits, one decimal point, an exponent; stops at the first other
 // character; "" or no digits gives 0. "&H" hex is read too.
 double Val(std::string_view text);
+// The Val of typed text rounded (half to even) to the whole number a field
+// stores; nullopt when that falls outside [low, high], so the field keeps its value.
+std::optional<double> WholeIn(std::string_view text, double low, double high);
 // A number as text with no leading blank: 12 -> "12", -3 -> "-3", 2.5 -> "2.5".
 std::string NumText(double x);
 // Formats with a number mask: "0,000", "$#,##0", "$#,##0.00", "$0,000", "$0.00",
