@@ -195,6 +195,24 @@ void RenumberEmail(const LeagueState& s, const Removal& r) {
   WriteEmailLines(p, lines);
 }
 
+// The team's players leave the league: their database records become free
+// again, found by name as the database merge finds them.
+void FreeDatabasePlayers(LeagueState& s, const Removal& r) {
+  if (!fs::exists(s.swap(swp::Roster))) return;
+  std::vector<FixedText<22>> names;
+  RecordFile roster(s.swap(swp::Roster), Player::kSize);
+  for (int slot = 0; slot < kRosterSlots; ++slot) {
+    Player p = roster.getRecord<Player>(static_cast<std::size_t>(r.gone * kRosterSlots + slot + 1));
+    if (!p.empty()) names.push_back(p.Name);
+  }
+  EditSwap<DbRecord>(s, swp::Database, [&](auto& db) {
+    for (const auto& name : names) {
+      auto held = std::find_if(db.begin(), db.end(), [&](const DbRecord& d) { return d.DbFlag != 0 && d.P.Name == name; });
+      if (held != db.end()) held->DbFlag = 0;
+    }
+  });
+}
+
 // Per-team files: the team's records go, later ones move up a place.
 void DropTeamRecords(LeagueState& s, const Removal& r) {
   auto gone = static_cast<std::size_t>(r.gone);
@@ -228,6 +246,7 @@ void RemoveTeam(LeagueState& s, int gone) {
   const Removal r{gone, s.numTeams()};
   u8 gonePriority = s.team(gone).Priority;
   RemoveFromMemory(s, r);
+  FreeDatabasePlayers(s, r);
   DropTeamRecords(s, r);
   EditSwap<Coach>(s, swp::Coaches, [&](auto& v) { RenumberCoaches(v, r); });
   RenumberPriority(s, r, gonePriority);

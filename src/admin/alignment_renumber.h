@@ -16,7 +16,8 @@ std::optional<u8> NumberAfterRemoval(int t, int gone, int oldCount);
 
 // Removes team `gone` from memory and from every swap file: later teams move
 // down one place, records of the team are dropped, picks made for it lapse, its
-// coach becomes free and its scheduled games disappear. The division lists of
+// coach and its players' database records become free, and its scheduled
+// games disappear. The division lists of
 // the header are renumbered too.
 void RemoveTeam(LeagueState& s, int gone);
 

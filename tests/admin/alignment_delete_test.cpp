@@ -282,6 +282,24 @@ TEST_F(DeleteTeam, FuturesEmailAndCareerLinesFollowTheirTeams) {
   EXPECT_EQ(career[0].Team, New(5));
 }
 
+TEST_F(DeleteTeam, ThePlayersOfTheTeamAreFreeInTheDatabaseAgain) {
+  std::vector<DbRecord> db;
+  for (auto [name, flag] : {std::pair{"T2 C 1", -1}, {"T3 C 1", -1}, {"Nobody Yet", 0}, {"T2 D 1", -1}}) {
+    DbRecord d;
+    d.DbFlag = static_cast<i16>(flag);
+    d.P = test::MakePlayer(name, kCentre, 50);
+    db.push_back(d);
+  }
+  PutAll(h.state.swap(swp::Database), db);
+  AlignLeague(h.state).cmdDelete(kGone);
+  auto after = Records<DbRecord>(h.state.swap(swp::Database));
+  ASSERT_EQ(after.size(), db.size());
+  EXPECT_EQ(after[0].DbFlag, 0);
+  EXPECT_EQ(after[1].DbFlag, -1);  // team 3's player stays held
+  EXPECT_EQ(after[2].DbFlag, 0);
+  EXPECT_EQ(after[3].DbFlag, 0);
+}
+
 TEST_F(DeleteTeam, SavedLeagueLoadsAgainAndPassesTheChecks) {
   AlignLeague(h.state).cmdDelete(kGone);
   SaveLg(h.state);
