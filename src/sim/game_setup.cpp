@@ -173,7 +173,7 @@ void Game::SetLine(int sd, int line) {
   g.LineToughness = g.LineDiscipline = g.LineDurability = g.LineChecking = 0;
   // Only a seated player is on the ice.
   for (u8 p : g.OnIce)
-    if (p != kNoPlayer && g.Status[p] == kOnIce) g.Status[p] = kOnBench;
+    if (p != kNoPlayer && g.Status[p] == kOnIce) g.Bench(p);
   const int d = ManDifference(opponent, sd);
   int count = 0;
   for (int seat = 0; seat < kSeats; ++seat) {

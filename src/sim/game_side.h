@@ -3,6 +3,7 @@
 // the ratings as scaled for this game, and what the side did. Built when a
 // game is set up and thrown away after the box score.
 #include <array>
+#include <cstdint>
 
 #include "league/records.h"
 
@@ -92,6 +93,15 @@ struct GameSide {
   // Somebody may have box time left: set with BoxTicks or ServeTicks, cleared
   // by the tick that finds none, so most ticks skip the box.
   bool boxWatch = false;
+  // Slots that may be on the bench below their condition, by bit; a tick
+  // gives energy back to these only.
+  std::uint64_t recovering = 0;
+
+  // Sends a player to the bench, where he gets his energy back.
+  void Bench(int slot) {
+    Status[static_cast<std::size_t>(slot)] = kOnBench;
+    recovering |= std::uint64_t{1} << slot;
+  }
   u8 ChainCount = 0;
   int injuries = 0;
 };

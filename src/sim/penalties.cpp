@@ -221,7 +221,7 @@ void Game::PenaltyOver(int sd, u8 slot) {
   GameSide& g = sideOf(sd);
   if (g.ServeTicks[slot] > 0) return;
   if (g.PenaltyKind[slot] == kMajor) {
-    g.Status[slot] = kOnBench;
+    g.Bench(slot);
   } else if (g.PenaltyKind[slot] < kMajor) {
     // Out of the box straight into an empty seat.
     if (g.OnIce[3] == kNoPlayer) {
@@ -231,7 +231,7 @@ void Game::PenaltyOver(int sd, u8 slot) {
       g.OnIce[4] = slot;
       g.Status[slot] = kOnIce;
     } else {
-      g.Status[slot] = kOnBench;
+      g.Bench(slot);
     }
   }
   g.PenaltyKind[slot] = kNoPenalty;
@@ -262,7 +262,7 @@ void Game::ChangeGoalie(int sd) {
   for (int slot = 0; slot < kGameSlots && next < 0; ++slot)
     if (g.Status[slot] == kOnBench && player(sd, slot).Pos == kGoalie && slot != g.Goalie) next = slot;
   if (next < 0) return;
-  if (g.Status[g.Goalie] != kInjured) g.Status[g.Goalie] = kOnBench;
+  if (g.Status[g.Goalie] != kInjured) g.Bench(g.Goalie);
   g.Goalie = static_cast<u8>(next);
   if (Clock > 5)
     AddNote(PlayerName(sd, next) + " enters game at " + ClockText(Clock) + " of " + Ordinal(Period) + " period<BR>");

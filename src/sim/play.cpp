@@ -1,5 +1,6 @@
 // The tick loop: periods, face-offs, moving the puck, and the clock.
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 #include "sim/game.h"
@@ -188,22 +189,25 @@ void Game::TickSide(int sd) {
       else PenaltyOver(sd, static_cast<u8>(slot));
     }
     int& serve = g.ServeTicks[static_cast<std::size_t>(slot)];
-    if (serve > 0 && --serve == 0 && g.Status[static_cast<std::size_t>(slot)] < kInjured)
-      g.Status[static_cast<std::size_t>(slot)] = kOnBench;
+    if (serve > 0 && --serve == 0 && g.Status[static_cast<std::size_t>(slot)] < kInjured) g.Bench(slot);
     watch = watch || box > 0 || serve > 0;
   }
   g.boxWatch = watch;
   g.MenInBox = static_cast<u8>(inBox);
-  for (int i = 0; i < dressed; ++i) {
-    const std::size_t slot = g.dressed[static_cast<std::size_t>(i)];
-    const i16 status = g.Status[slot];
-    const double energy = g.Energy[slot];
-    if (status == kOnIce) {
-      g.Energy[slot] = static_cast<float>(energy - (wear - g.endurance[slot]) / 12);
-      g.IceTime[slot] = static_cast<i16>(g.IceTime[slot] + 5);
-    } else if (status == kOnBench && energy < g.energyCap[slot]) {
-      g.Energy[slot] = static_cast<float>(std::min(energy + g.recovery[slot], g.energyCap[slot]));
-    }
+  // Whoever is on the ice sits in a seat.
+  for (u8 slot : g.OnIce) {
+    if (slot == kNoPlayer || g.Status[slot] != kOnIce) continue;
+    g.Energy[slot] = static_cast<float>(g.Energy[slot] - (wear - g.endurance[slot]) / 12);
+    g.IceTime[slot] = static_cast<i16>(g.IceTime[slot] + 5);
+  }
+  // On the bench a player gets energy back up to his condition; once there,
+  // or off the bench, he leaves the set until he is benched again.
+  for (std::uint64_t bits = g.recovering; bits != 0; bits &= bits - 1) {
+    const int slot = std::countr_zero(bits);
+    const std::size_t i = static_cast<std::size_t>(slot);
+    if (g.Status[i] == kOnBench && g.Energy[i] < g.energyCap[i])
+      g.Energy[i] = static_cast<float>(std::min(g.Energy[i] + g.recovery[i], g.energyCap[i]));
+    if (g.Status[i] != kOnBench || g.Energy[i] >= g.energyCap[i]) g.recovering &= ~(std::uint64_t{1} << slot);
   }
   if (MeanEnergy(sd) < 90 && InDefensiveZone(sd) != 1) NextLine(sd, other(sd));
 }

@@ -49,8 +49,8 @@ GameFixture::GameFixture(const LeagueSpec& spec, bool setup) {
 
 void GameFixture::Seat(int sd, std::initializer_list<int> slots) {
   GameSide& g = side(sd);
-  for (auto& st : g.Status)
-    if (st == kOnIce) st = kOnBench;
+  for (int slot = 0; slot < kGameSlots; ++slot)
+    if (g.Status[static_cast<std::size_t>(slot)] == kOnIce) g.Bench(slot);
   g.OnIce.fill(kNoPlayer);
   int seat = 0;
   for (int p : slots) {
