@@ -1,5 +1,6 @@
 #include "ui/terminal_ui.h"
 
+#include <fmt/format.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -17,6 +18,10 @@ void OnInterrupt(int) { gStop = 1; }
 
 // Records hold Windows-1252; the terminal speaks UTF-8.
 std::string Show(const std::string& s) { return Cp1252ToUtf8(s); }
+// "[title] text", as every message, question and prompt begins.
+std::string Framed(const std::string& title, const std::string& text) {
+  return fmt::format("[{}] {}", Show(title), Show(text));
+}
 }  // namespace
 
 TerminalUi::TerminalUi(std::istream& in, std::ostream& out, std::ostream& err)
@@ -26,7 +31,7 @@ void TerminalUi::InstallStopHandler() { std::signal(SIGINT, OnInterrupt); }
 
 void TerminalUi::tell(const std::string& text, const std::string& title) {
   progressDone();
-  out_ << "[" << Show(title) << "] " << Show(text) << "\n";
+  out_ << Framed(title, text) << "\n";
 }
 
 std::optional<std::string> TerminalUi::readLine(const std::string& shown) {
@@ -49,7 +54,7 @@ std::optional<std::string> TerminalUi::readLine(const std::string& shown) {
 
 Answer TerminalUi::ask(const std::string& text, const std::string& title, Buttons buttons) {
   std::string choices = buttons == Buttons::YesNoCancel ? " (yes/no/cancel) " : " (yes/no) ";
-  std::string shown = "[" + Show(title) + "] " + Show(text) + choices;
+  std::string shown = fmt::format("{}{}", Framed(title, text), choices);
   if (answers_.empty() && answerAll_) {
     out_ << shown << (*answerAll_ == Answer::Yes ? "yes" : "no") << "\n";
     return *answerAll_;
@@ -63,8 +68,8 @@ Answer TerminalUi::ask(const std::string& text, const std::string& title, Button
 
 std::optional<std::string> TerminalUi::prompt(const std::string& text, const std::string& title,
                                               const std::string& defaultValue) {
-  std::string shown = "[" + Show(title) + "] " + Show(text);
-  if (!defaultValue.empty()) shown += " [" + Show(defaultValue) + "]";
+  std::string shown = Framed(title, text);
+  if (!defaultValue.empty()) shown += fmt::format(" [{}]", Show(defaultValue));
   // Typed text goes into records, which hold Windows-1252; file names stay as typed.
   auto line = readLine(shown + ": ");
   if (line && line->empty()) return defaultValue;
@@ -74,8 +79,8 @@ std::optional<std::string> TerminalUi::prompt(const std::string& text, const std
 
 std::optional<std::filesystem::path> TerminalUi::chooseFile(const std::string& title, const std::string&,
                                                             const std::filesystem::path& suggested, bool) {
-  std::string shown = "[" + Show(title) + "] file";
-  if (!suggested.empty()) shown += " [" + suggested.string() + "]";
+  std::string shown = Framed(title, "file");
+  if (!suggested.empty()) shown += fmt::format(" [{}]", suggested.string());
   auto line = readLine(shown + ": ");
   if (!line) return std::nullopt;
   if (line->empty()) return suggested.empty() ? std::nullopt : std::optional<std::filesystem::path>(suggested);
