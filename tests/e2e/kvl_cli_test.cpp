@@ -92,7 +92,8 @@ TEST_F(Cli, EveryCommandHasHelp) {
   std::string line;
   std::getline(lines, line);
   int seen = 0;
-  while (std::getline(lines, line) && line.size() > 2 && line[2] != ' ') {
+  while (std::getline(lines, line) && !line.empty()) {
+    if (line.size() < 3 || line[2] == ' ') continue;  // a wrapped description
     std::string cmd = line.substr(2, line.find(' ', 2) - 2);
     ProgramRun r = Run({cmd, "--help"});
     EXPECT_EQ(r.status, 0) << cmd;
