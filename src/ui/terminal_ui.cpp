@@ -16,8 +16,23 @@ namespace {
 volatile std::sig_atomic_t gStop = 0;
 void OnInterrupt(int) { gStop = 1; }
 
-// Records hold Windows-1252; the terminal speaks UTF-8.
-std::string Show(const std::string& s) { return Cp1252ToUtf8(s); }
+// True when `s` is well-formed UTF-8 (plain ASCII included).
+bool IsUtf8(const std::string& s) {
+  std::size_t i = 0;
+  while (i < s.size()) {
+    auto b = static_cast<unsigned char>(s[i++]);
+    int follow = b < 0x80 ? 0 : (b & 0xE0) == 0xC0 ? 1 : (b & 0xF0) == 0xE0 ? 2 : (b & 0xF8) == 0xF0 ? 3 : -1;
+    if (follow < 0) return false;
+    for (; follow > 0; --follow, ++i)
+      if (i >= s.size() || (static_cast<unsigned char>(s[i]) & 0xC0) != 0x80) return false;
+  }
+  return true;
+}
+
+// Records hold Windows-1252 and the terminal speaks UTF-8. A text that already
+// reads as UTF-8 (a file name in a message) is shown as it is: accented letters
+// of Windows-1252 stand alone in names and so never read as UTF-8.
+std::string Show(const std::string& s) { return IsUtf8(s) ? s : Cp1252ToUtf8(s); }
 // "[title] text", as every message, question and prompt begins.
 std::string Framed(const std::string& title, const std::string& text) {
   return fmt::format("[{}] {}", Show(title), Show(text));

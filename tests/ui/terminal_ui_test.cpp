@@ -58,11 +58,16 @@ TEST(TerminalUi, FileNamesStayAsTyped) {
   EXPECT_EQ(t.ui.chooseFile("Load League", "", "", false), std::nullopt);
 }
 
-TEST(TerminalUi, ShowsRecordTextInUtf8) {
+TEST(TerminalUi, ShowsRecordTextInUtf8AndFileNamesAsTheyAre) {
   Terminal t("");
   t.ui.tell("Coach Andr\xE9 hired", "Hire Coach");
   t.ui.print("Qu\xE9" "bec");
-  EXPECT_EQ(t.out.str(), "[Hire Coach] Coach André hired\nQuébec\n");
+  t.ui.tell("Details saved in /home/jörg/InvalidRosters.txt", "Games cannot be run with invalid rosters:");
+  t.ui.print("M\xFC" "ller \xA9 \xC3");  // Windows-1252 bytes that begin no UTF-8 sequence
+  EXPECT_EQ(t.out.str(),
+            "[Hire Coach] Coach André hired\nQuébec\n"
+            "[Games cannot be run with invalid rosters:] Details saved in /home/jörg/InvalidRosters.txt\n"
+            "Müller © Ã\n");
 }
 
 }  // namespace
