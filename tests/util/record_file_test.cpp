@@ -1,0 +1,93 @@
+// Fixed-record files numbered from 1, and the whole-file helpers.
+#include <gtest/gtest.h>
+
+#include "support/league_fixture.h"
+#include "util/record_file.h"
+
+namespace kvl {
+namespace {
+
+Bytes Rec(std::uint8_t fill, std::size_t n = 4) { return Bytes(n, fill); }
+
+TEST(RecordFile, RecordsCountFromOneAndGapsReadAsZero) {
+  test::TempDir dir;
+  fs::path p = dir.path() / "f.dat";
+  RecordFile f(p, 4);
+  EXPECT_TRUE(fs::exists(p)) << "opening creates the file";
+  EXPECT_EQ(f.count(), 0u);
+  f.put(3, Rec(7));
+  EXPECT_EQ(ReadFileBytes(p), (Bytes{0, 0, 0, 0, 0, 0, 0, 0, 7, 7, 7, 7}));
+  f.put(1, Rec(1));
+  EXPECT_EQ(f.count(), 3u);
+  EXPECT_EQ(f.get(1), Rec(1));
+  EXPECT_EQ(f.get(2), Rec(0));
+  EXPECT_EQ(f.get(9), Rec(0)) << "past the end reads zero";
+  EXPECT_EQ(f.count(), 3u) << "reading never extends";
+  EXPECT_THROW(f.get(0), KvlError);
+  EXPECT_THROW(f.put(0, Rec(1)), KvlError);
+}
+
+TEST(RecordFile, ShortAndLongWritesFitTheRecordLength) {
+  test::TempDir dir;
+  RecordFile f(dir.path() / "f.dat", 4);
+  f.put(1, Bytes{9, 9});
+  f.put(2, Bytes{1, 2, 3, 4, 5, 6});
+  EXPECT_EQ(ReadFileBytes(dir.path() / "f.dat"), (Bytes{9, 9, 0, 0, 1, 2, 3, 4}));
+}
+
+TEST(RecordFile, APartialLastRecordIsNotCountedButReadsPadded) {
+  test::TempDir dir;
+  WriteFileAtomic(dir.path() / "f.dat", Bytes{1, 1, 1, 1, 2, 2});
+  RecordFile f(dir.path() / "f.dat", 4);
+  EXPECT_EQ(f.count(), 1u);
+  EXPECT_EQ(f.get(2), (Bytes{2, 2, 0, 0}));
+}
+
+TEST(RecordFile, TypedRecordsGoThroughTheirLayout) {
+  test::TempDir dir;
+  RecordFile f(dir.path() / "c.coa", Coach::kSize);
+  Coach c;
+  c.Name.set("Scotty");
+  c.Salary = 250000;
+  c.Team = 4;
+  f.putRecord(2, c);
+  Coach back = f.getRecord<Coach>(2);
+  EXPECT_EQ(back.Name.str(), "Scotty");
+  EXPECT_EQ(back.Salary, 250000);
+  EXPECT_EQ(back.Team, 4);
+  EXPECT_EQ(f.getRecord<Coach>(1).Team, 0) << "an unwritten record is all zero, not the default";
+}
+
+TEST(WholeFiles, AtomicWritesReplaceAndLeaveNoTemporary) {
+  test::TempDir dir;
+  fs::path p = dir.path() / "league.tms";
+  WriteFileAtomic(p, Bytes{1, 2, 3});
+  WriteFileAtomic(p, Bytes{4});
+  EXPECT_EQ(ReadFileBytes(p), Bytes{4});
+  CopyFileAtomic(p, dir.path() / "swp.t");
+  EXPECT_EQ(ReadFileBytes(dir.path() / "swp.t"), Bytes{4});
+  int files = 0;
+  for ([[maybe_unused]] const auto& e : fs::directory_iterator(dir.path())) ++files;
+  EXPECT_EQ(files, 2);
+}
+
+TEST(WholeFiles, FailuresNameTheFile) {
+  test::TempDir dir;
+  fs::path missing = dir.path() / "nowhere" / "x.lge";
+  for (auto f : {std::function<void()>([&] { ReadFileBytes(missing); }),
+                 std::function<void()>([&] { WriteFileAtomic(missing, Bytes{1}); })}) {
+    try {
+      f();
+      ADD_FAILURE() << "no error";
+    } catch (const KvlError& e) {
+      EXPECT_NE(std::string(e.what()).find(missing.string()), std::string::npos) << e.what();
+    }
+  }
+  EXPECT_NO_THROW(RemoveIfExists(missing));
+  WriteFileAtomic(dir.path() / "y", Bytes{1});
+  RemoveIfExists(dir.path() / "y");
+  EXPECT_FALSE(fs::exists(dir.path() / "y"));
+}
+
+}  // namespace
+}  // namespace kvl
