@@ -61,14 +61,14 @@ ScheduleRecord Game(int home, int away, bool played) {
 class DeleteTeam : public ::testing::Test {
  protected:
   void SetUp() override {
-    auto spec = test::StandardLeague(kTeams);
+    auto plan = test::StandardLeague(kTeams);
     for (int t = 0; t < kTeams; ++t) {
-      spec.coaches[static_cast<std::size_t>(t)].Team = static_cast<u8>(t + 1);
-      spec.teams[static_cast<std::size_t>(t)].CoachRec = static_cast<u8>(t + 1);
-      spec.teams[static_cast<std::size_t>(t)].Coach.Name = spec.coaches[static_cast<std::size_t>(t)].Name;
+      plan.coaches[static_cast<std::size_t>(t)].Team = static_cast<u8>(t + 1);
+      plan.teams[static_cast<std::size_t>(t)].CoachRec = static_cast<u8>(t + 1);
+      plan.teams[static_cast<std::size_t>(t)].Coach.Name = plan.coaches[static_cast<std::size_t>(t)].Name;
     }
-    spec.header.ScheduleMade = kTrue;
-    path = h.load(spec);
+    plan.header.ScheduleMade = kTrue;
+    path = h.load(plan);
     h.ui.setFallback(Answer::Yes);
     WritePicks();
     WritePriority();

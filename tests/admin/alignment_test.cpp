@@ -99,8 +99,8 @@ INSTANTIATE_TEST_SUITE_P(Align, AddRefused,
 
 TEST(AlignLimits, FiftyTeamsIsTheMost) {
   Harness h;
-  auto spec = test::StandardLeague(40);
-  h.load(spec);
+  auto plan = test::StandardLeague(40);
+  h.load(plan);
   for (int conf = 0; conf < 2; ++conf) AlignLeague(h.state).ChangeDivisions(conf, 3);
   for (int i = 0; i < 10; ++i) ASSERT_TRUE(AlignLeague(h.state).cmdAdd(i % 2, 2, "X" + std::to_string(i)));
   EXPECT_THROW(AlignLeague(h.state).cmdAdd(0, 2, std::string("Y")), Refused);

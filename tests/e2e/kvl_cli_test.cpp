@@ -41,9 +41,9 @@ class Cli : public ::testing::Test {
   void SetUp() override {
     fs::create_directories(leagueDir());
     league = (leagueDir() / "metro").string();
-    auto spec = test::StandardLeague(10, 3);
-    test::Enrich(spec, 9);
-    test::WriteLeague(spec, league);
+    auto plan = test::StandardLeague(10, 3);
+    test::Enrich(plan, 9);
+    test::WriteLeague(plan, league);
     test::WriteOptionalFiles(league, 10, 4);
   }
   fs::path leagueDir() const { return dir.path() / "league"; }

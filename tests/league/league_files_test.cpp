@@ -34,17 +34,17 @@ class LoadSaveRoundTrip : public ::testing::TestWithParam<RoundTripCase> {};
 TEST_P(LoadSaveRoundTrip, LeavesEveryFileByteIdentical) {
   const auto& c = GetParam();
   Harness h;
-  auto spec = StandardLeague(10, 3);
-  test::Enrich(spec, 11);
+  auto plan = StandardLeague(10, 3);
+  test::Enrich(plan, 11);
   if (c.playoffs) {
-    spec.header.ScheduleMade = spec.header.SeasonOver = spec.header.InPlayoffs = kTrue;
-    spec.header.PlayoffTeams = 8;
+    plan.header.ScheduleMade = plan.header.SeasonOver = plan.header.InPlayoffs = kTrue;
+    plan.header.PlayoffTeams = 8;
   }
-  std::string path = WriteLeagueIn(h, spec, c.optionalFiles);
+  std::string path = WriteLeagueIn(h, plan, c.optionalFiles);
   if (!c.optionalFiles) {
     // Without .wvr a load clears Waived, which a save would then write.
-    for (auto& t : spec.teams) t.Waived = kFalse;
-    test::WriteLeague(spec, path);
+    for (auto& t : plan.teams) t.Waived = kFalse;
+    test::WriteLeague(plan, path);
   }
   if (c.playoffs) {
     std::mt19937 gen(5);
@@ -66,9 +66,9 @@ INSTANTIATE_TEST_SUITE_P(FileSets, LoadSaveRoundTrip,
 
 TEST(LeagueFiles, UpperCaseExtensionsLoadAndSaveInPlace) {
   Harness h;
-  auto spec = StandardLeague(8);
-  test::Enrich(spec, 2);
-  std::string lower = WriteLeagueIn(h, spec, true, "demo");
+  auto plan = StandardLeague(8);
+  test::Enrich(plan, 2);
+  std::string lower = WriteLeagueIn(h, plan, true, "demo");
   std::string upper = (LeagueDir(h) / "DEMO").string();
   fs::rename(LeagueDir(h) / "demo.lge", LeagueDir(h) / "demo.LGE");
   for (const auto& e : Snapshot(SnapshotDir(LeagueDir(h)))) {
@@ -88,8 +88,8 @@ TEST(LeagueFiles, UpperCaseExtensionsLoadAndSaveInPlace) {
 
 TEST(LeagueFiles, UnsavedWorkStaysInTheSwapFiles) {
   Harness h;
-  auto spec = StandardLeague(8);
-  std::string path = WriteLeagueIn(h, spec, true);
+  auto plan = StandardLeague(8);
+  std::string path = WriteLeagueIn(h, plan, true);
   Snapshot before = SnapshotDir(LeagueDir(h));
   LoadLg(h.state, path);
   loadteam(h.state, 2, 0);
@@ -164,9 +164,9 @@ TEST(LeagueFiles, WithoutAWaiverSwapTheWaiverFileIsLeftAlone) {
 TEST(LeagueFiles, LoadingWithoutWaiverFileClearsWaived) {
   for (bool withWvr : {false, true}) {
     Harness h;
-    auto spec = StandardLeague(8);
-    for (auto& t : spec.teams) t.Waived = kTrue;
-    std::string path = WriteLeagueIn(h, spec, withWvr);
+    auto plan = StandardLeague(8);
+    for (auto& t : plan.teams) t.Waived = kTrue;
+    std::string path = WriteLeagueIn(h, plan, withWvr);
     LoadLg(h.state, path);
     for (int t = 0; t < 8; ++t) EXPECT_EQ(h.state.team(t).Waived, withWvr ? kTrue : kFalse) << t << " wvr " << withWvr;
     EXPECT_EQ(fs::exists(h.state.swap(swp::Waivers)), withWvr);
@@ -210,11 +210,11 @@ TEST(LeagueFiles, MissingOptionalFilesDeleteStaleSwapCopies) {
 
 TEST(LeagueFiles, MissingProspectFileKeepsTheOldSwapCopy) {
   Harness h;
-  auto spec = StandardLeague(8);
-  std::string first = WriteLeagueIn(h, spec, false, "first");
+  auto plan = StandardLeague(8);
+  std::string first = WriteLeagueIn(h, plan, false, "first");
   LoadLg(h.state, first);
   Bytes prospects = ReadFileBytes(h.state.swap(swp::Prospects));
-  std::string second = WriteLeagueIn(h, spec, false, "second");
+  std::string second = WriteLeagueIn(h, plan, false, "second");
   fs::remove(second + ".pct");
   LoadLg(h.state, second);
   EXPECT_EQ(ReadFileBytes(h.state.swap(swp::Prospects)), prospects);
@@ -226,8 +226,8 @@ TEST(LeagueFiles, HeaderCountsAndDivisions) {
   struct Case { int storedTeams; int numDivs0, numDivs1; int teams, divs0, divs1; };
   for (Case c : {Case{7, 2, 3, 8, 2, 3}, {255, 0, 0, 0, 2, 2}, {49, 4, 0, 50, 4, 2}, {0, 1, 4, 1, 1, 4}}) {
     Harness h;
-    auto spec = StandardLeague(std::max(c.teams, 1));
-    std::string path = WriteLeagueIn(h, spec, false);
+    auto plan = StandardLeague(std::max(c.teams, 1));
+    std::string path = WriteLeagueIn(h, plan, false);
     Bytes lge = ReadFileBytes(path + ".lge");
     lge[25] = static_cast<std::uint8_t>(c.storedTeams);
     lge[38] = static_cast<std::uint8_t>(c.numDivs0);
@@ -242,11 +242,11 @@ TEST(LeagueFiles, HeaderCountsAndDivisions) {
 
 TEST(LeagueFiles, AFreshLeagueOfNoTeamsSavesAndLoadsAgain) {
   Harness h;
-  auto spec = StandardLeague(1);
-  spec.header.NumTeams = 0;
-  spec.teams.clear();
-  spec.rosters.clear();
-  std::string path = WriteLeagueIn(h, spec, false);
+  auto plan = StandardLeague(1);
+  plan.header.NumTeams = 0;
+  plan.teams.clear();
+  plan.rosters.clear();
+  std::string path = WriteLeagueIn(h, plan, false);
   EXPECT_EQ(ReadFileBytes(path + ".lge")[25], 255);
   LoadLg(h.state, path);
   EXPECT_EQ(h.state.numTeams(), 0);
@@ -258,8 +258,8 @@ TEST(LeagueFiles, AFreshLeagueOfNoTeamsSavesAndLoadsAgain) {
 
 TEST(LeagueFiles, RecordsPastTheTeamCountAreNotRead) {
   Harness h;
-  auto spec = StandardLeague(12);
-  std::string path = WriteLeagueIn(h, spec, false);
+  auto plan = StandardLeague(12);
+  std::string path = WriteLeagueIn(h, plan, false);
   Bytes lge = ReadFileBytes(path + ".lge");
   lge[25] = 7;  // 8 teams, though .tms holds 12
   WriteFileAtomic(path + ".lge", lge);
@@ -273,10 +273,10 @@ TEST(LeagueFiles, PointSystemAboveThreeIsResetOutsideThePlayoffs) {
   struct Case { int stored; bool playoffs; int loaded; };
   for (Case c : {Case{3, false, 3}, {4, false, 0}, {9, false, 0}, {4, true, 4}}) {
     Harness h;
-    auto spec = StandardLeague(8);
-    spec.header.PointSystem = static_cast<u8>(c.stored);
-    spec.header.InPlayoffs = ToBool16(c.playoffs);
-    std::string path = WriteLeagueIn(h, spec, false);
+    auto plan = StandardLeague(8);
+    plan.header.PointSystem = static_cast<u8>(c.stored);
+    plan.header.InPlayoffs = ToBool16(c.playoffs);
+    std::string path = WriteLeagueIn(h, plan, false);
     if (c.playoffs) WriteFileAtomic(path + ".plf", EncodeRecord(PlayoffState{}));
     LoadLg(h.state, path);
     EXPECT_EQ(h.state.league.PointSystem, c.loaded) << c.stored << " playoffs " << c.playoffs;
@@ -298,9 +298,9 @@ TEST(LeagueFiles, LoadNamesTheLeagueAndWritesKvlDef) {
 
 TEST(LeagueFiles, PlayoffStateIsReadAndWrittenOnlyInPlayoffs) {
   Harness h;
-  auto spec = StandardLeague(8);
-  spec.header.InPlayoffs = spec.header.SeasonOver = kTrue;
-  std::string path = WriteLeagueIn(h, spec, false);
+  auto plan = StandardLeague(8);
+  plan.header.InPlayoffs = plan.header.SeasonOver = kTrue;
+  std::string path = WriteLeagueIn(h, plan, false);
   PlayoffState p;
   p.PlayoffRound = 2;
   p.Seeds[0] = 5;
@@ -320,8 +320,8 @@ TEST(LeagueFiles, PlayoffStateIsReadAndWrittenOnlyInPlayoffs) {
 
 TEST(LoadTeam, EmptySlotsAreZeroAndConditionZeroIsFull) {
   Harness h;
-  auto spec = StandardLeague(8);
-  auto& roster = spec.rosters[3];
+  auto plan = StandardLeague(8);
+  auto& roster = plan.rosters[3];
   roster[0].Condition = 0;
   roster[1].Condition = 37;
   Player ghost = test::MakePlayer("x", kGoalie, 80);
@@ -329,7 +329,7 @@ TEST(LoadTeam, EmptySlotsAreZeroAndConditionZeroIsFull) {
   ghost.Condition = 0;
   roster.resize(25);
   roster[24] = ghost;
-  h.load(spec);
+  h.load(plan);
   loadteam(h.state, 3, 1);
   EXPECT_EQ(h.state.player(1, 0).Condition, 100);
   EXPECT_EQ(h.state.player(1, 1).Condition, 37);
@@ -371,9 +371,9 @@ class MissingRequired : public ::testing::TestWithParam<const char*> {};
 TEST_P(MissingRequired, IsToldAndEndsTheProgramWithNothingSaved) {
   std::string ext = GetParam();
   Harness h;
-  auto spec = StandardLeague(8);
-  spec.header.InPlayoffs = spec.header.SeasonOver = kTrue;
-  std::string path = WriteLeagueIn(h, spec, true);
+  auto plan = StandardLeague(8);
+  plan.header.InPlayoffs = plan.header.SeasonOver = kTrue;
+  std::string path = WriteLeagueIn(h, plan, true);
   WriteFileAtomic(path + ".plf", EncodeRecord(PlayoffState{}));
   fs::remove(path + ext);
   WriteFileAtomic(h.home / "kvl.def", Bytes{'x'});

@@ -13,7 +13,7 @@ namespace kvl {
 namespace {
 
 using test::Harness;
-using test::LeagueSpec;
+using test::LeaguePlan;
 using test::StandardLeague;
 
 // Slots of a standard roster: C 0-3, LW 4-7, RW 8-11, D 12-18, G 19-21, then a
@@ -40,9 +40,9 @@ const std::string kHeading = "Games cannot be run with invalid rosters:";
 TEST_P(RosterCheckLines, NameEachShortageInTheReport) {
   const auto& c = GetParam();
   Harness h;
-  LeagueSpec spec = StandardLeague(8);
-  c.change(spec.rosters[2]);
-  std::string path = h.load(spec);
+  LeaguePlan plan = StandardLeague(8);
+  c.change(plan.rosters[2]);
+  std::string path = h.load(plan);
   fs::path report = h.home / "InvalidRosters.txt";
   if (c.shortages.empty()) {
     EXPECT_FALSE(fs::exists(report));
@@ -86,9 +86,9 @@ INSTANTIATE_TEST_SUITE_P(
 // The line of one team, as the report holds it.
 TEST(RosterCheck, TotalCountsEveryNamedFitPlayer) {
   Harness h;
-  LeagueSpec spec = StandardLeague(8);
-  Blank(spec.rosters[0], {19, 20, 21, 22, 23});  // 19 left, no goalie
-  h.load(spec);
+  LeaguePlan plan = StandardLeague(8);
+  Blank(plan.rosters[0], {19, 20, 21, 22, 23});  // 19 left, no goalie
+  h.load(plan);
   bool ok = true;
   std::string line = RosterLine(h.state, 0, ok);
   EXPECT_FALSE(ok);
@@ -98,15 +98,15 @@ TEST(RosterCheck, TotalCountsEveryNamedFitPlayer) {
 // ---- coaches ---------------------------------------------------------------------
 
 // Every team t linked to coach record t + 1 and back.
-LeagueSpec LinkedLeague() {
-  LeagueSpec spec = StandardLeague(8);
-  test::Enrich(spec, 4);
-  return spec;
+LeaguePlan LinkedLeague() {
+  LeaguePlan plan = StandardLeague(8);
+  test::Enrich(plan, 4);
+  return plan;
 }
 
 struct CoachCase {
   const char* name;
-  std::function<void(LeagueSpec&)> change;
+  std::function<void(LeaguePlan&)> change;
   std::vector<std::string> told;  // texts, all titled "Validate Coaches"
   int coachRec4;                  // team 4's link afterwards
 };
@@ -118,10 +118,10 @@ class CoachCheckCases : public ::testing::TestWithParam<CoachCase> {};
 TEST_P(CoachCheckCases, ToldAndRepaired) {
   const auto& c = GetParam();
   Harness h;
-  LeagueSpec spec = LinkedLeague();
-  c.change(spec);
-  Team before = spec.teams[4];
-  h.load(spec);
+  LeaguePlan plan = LinkedLeague();
+  c.change(plan);
+  Team before = plan.teams[4];
+  h.load(plan);
   auto tells = h.ui.callsOf("tell");
   ASSERT_EQ(tells.size(), c.told.size());
   for (std::size_t i = 0; i < tells.size(); ++i) {
@@ -142,30 +142,30 @@ TEST_P(CoachCheckCases, ToldAndRepaired) {
 INSTANTIATE_TEST_SUITE_P(
     Links, CoachCheckCases,
     ::testing::Values(
-        CoachCase{"AllSound", [](LeagueSpec&) {}, {}, 5},
-        CoachCase{"FreeCoachStillLinked", [](LeagueSpec& s) { s.coaches[4].Team = Coach::kNoTeam; }, {}, 5},
-        CoachCase{"LastTeamIsNoBrokenLink", [](LeagueSpec& s) { s.teams[7].CoachRec = 0; s.coaches[7].Team = 8; }, {},
+        CoachCase{"AllSound", [](LeaguePlan&) {}, {}, 5},
+        CoachCase{"FreeCoachStillLinked", [](LeaguePlan& s) { s.coaches[4].Team = Coach::kNoTeam; }, {}, 5},
+        CoachCase{"LastTeamIsNoBrokenLink", [](LeaguePlan& s) { s.teams[7].CoachRec = 0; s.coaches[7].Team = 8; }, {},
                   5},
         CoachCase{"RelinkedByName",
-                  [](LeagueSpec& s) { s.teams[4].CoachRec = 6; },
+                  [](LeaguePlan& s) { s.teams[4].CoachRec = 6; },
                   {"Team Files say Team4 coach is Coach 4\nHowever, coach record #6 is held by Coach 5\n"
                    "Attempting to relink the team to its previous coach by name.",
                    "Found a match for Coach 4 at record 5\nRelinking to Team4."},
                   5},
         CoachCase{"LinkPastTheFile",
-                  [](LeagueSpec& s) { s.teams[4].CoachRec = 40; },
+                  [](LeaguePlan& s) { s.teams[4].CoachRec = 40; },
                   {"Team Files say Team4 coach is Coach 4\nHowever, coach record #40 is held by \n"
                    "Attempting to relink the team to its previous coach by name.",
                    "Found a match for Coach 4 at record 5\nRelinking to Team4."},
                   5},
         CoachCase{"NoSuchCoach",
-                  [](LeagueSpec& s) { s.teams[4].Coach.Name.set("Nobody"); },
+                  [](LeaguePlan& s) { s.teams[4].Coach.Name.set("Nobody"); },
                   {"Team Files say Team4 coach is Nobody\nHowever, coach record #5 is held by Coach 4\n"
                    "Attempting to relink the team to its previous coach by name.",
                    "Team4 coach link is corrupted.\nRemoving link to between Team4 and Nobody"},
                   0},
         CoachCase{"HeldByAnotherTeam",
-                  [](LeagueSpec& s) { s.coaches[4].Team = 7; },
+                  [](LeaguePlan& s) { s.coaches[4].Team = 7; },
                   {"Team4 coach link is corrupted.\nRemoving link to between Team4 and Coach 4"},
                   0}),
     [](const auto& info) { return std::string(info.param.name); });
@@ -173,10 +173,10 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(CoachCheck, HiredByATeamPastTheLeagueIsFreed) {
   for (int team : {9, 200}) {
     Harness h;
-    LeagueSpec spec = LinkedLeague();
-    spec.teams[2].CoachRec = 0;
-    spec.coaches[2].Team = static_cast<u8>(team);
-    h.load(spec);
+    LeaguePlan plan = LinkedLeague();
+    plan.teams[2].CoachRec = 0;
+    plan.coaches[2].Team = static_cast<u8>(team);
+    h.load(plan);
     EXPECT_TRUE(h.ui.told("Coach Coach 2 seems to be hired by a team that doesn't exist.\n"
                           "Removing employment link to team #" + std::to_string(team),
                           "Validate Coaches"));
@@ -188,11 +188,11 @@ TEST(CoachCheck, HiredByATeamPastTheLeagueIsFreed) {
 
 TEST(CoachCheck, LooksAtNoMoreThan253Records) {
   Harness h;
-  LeagueSpec spec = LinkedLeague();
-  while (spec.coaches.size() < 254) spec.coaches.push_back(Coach{});
-  spec.coaches[253].Name.set("Far Away");
-  spec.coaches[253].Team = 99;
-  h.load(spec);
+  LeaguePlan plan = LinkedLeague();
+  while (plan.coaches.size() < 254) plan.coaches.push_back(Coach{});
+  plan.coaches[253].Name.set("Far Away");
+  plan.coaches[253].Team = 99;
+  h.load(plan);
   EXPECT_TRUE(h.ui.callsOf("tell").empty());
 }
 

@@ -18,10 +18,10 @@ struct KvlRun {
 
 // A league written into a temporary folder, and kvl run over it.
 struct CliLeague {
-  explicit CliLeague(const test::LeagueSpec& spec) {
+  explicit CliLeague(const test::LeaguePlan& plan) {
     fs::create_directories(dir.path() / "league");
     path = (dir.path() / "league" / "cli").string();
-    test::WriteLeague(spec, path);
+    test::WriteLeague(plan, path);
   }
   KvlRun kvl(const std::string& args) {
     std::string cmd = std::string(KVL_BINARY) + " --home " + (dir.path() / "home").string() + " --league " + path +
@@ -59,7 +59,7 @@ TEST(MakeScheduleCommand, MakesAndSavesTheDemoAlignmentsSchedule) {
 
 TEST(MakeScheduleCommand, ReportsTheSystemsRefusals) {
   struct Case {
-    test::LeagueSpec spec;
+    test::LeaguePlan plan;
     std::string args, text;
     int rc;
   };
@@ -71,7 +71,7 @@ TEST(MakeScheduleCommand, ReportsTheSystemsRefusals) {
       {test::AlignedLeague({{7, 7}, {6, 6}}), "make-schedule", "Your league is currently unbalanced.", 1},
   };
   for (auto& c : cases) {
-    CliLeague lg(c.spec);
+    CliLeague lg(c.plan);
     KvlRun r = lg.kvl("--no " + c.args);
     EXPECT_EQ(r.rc, c.rc) << c.args << "\n" << r.out;
     EXPECT_TRUE(Has(r.out, c.text)) << c.args << "\n" << r.out;

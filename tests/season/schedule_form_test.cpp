@@ -231,11 +231,11 @@ TEST(ScheduleFormMayOpen, RefusesSmallLeaguesAndUnstockedExpansionTeams) {
     EXPECT_FALSE(ScheduleFormMayOpen(h.state));
     EXPECT_TRUE(h.ui.told("Not enough teams in league", "Make Schedule"));
   }
-  test::LeagueSpec spec = test::StandardLeague(8);
-  spec.teams[6].Expansion = 1;
-  spec.rosters[6].resize(19);
+  test::LeaguePlan plan = test::StandardLeague(8);
+  plan.teams[6].Expansion = 1;
+  plan.rosters[6].resize(19);
   test::Harness h;
-  h.load(spec);
+  h.load(plan);
   EXPECT_FALSE(ScheduleFormMayOpen(h.state));
   EXPECT_TRUE(h.ui.told("Must assign players to expansion teams", "Make Schedule"));
   h.state.league.ExpansionDraftOn = kTrue;

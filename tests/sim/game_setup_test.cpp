@@ -12,19 +12,19 @@ void SetRatings(Player& p, int level) {
 }
 
 TEST(SetupGame, ScalesByConditionAndCoachWithFloorAt2_5) {
-  LeagueSpec spec = SimLeague(4);
-  Player& c = spec.rosters[0][0];
+  LeaguePlan plan = SimLeague(4);
+  Player& c = plan.rosters[0][0];
   SetRatings(c, 70);
   c.Condition = 50;  // 70 at half condition reads 3.5
-  Player& g = spec.rosters[0][kFirstG];
+  Player& g = plan.rosters[0][kFirstG];
   SetRatings(g, 70);
-  HireCoach(spec, 0);
-  Coach& coach = spec.coaches[0];
+  HireCoach(plan, 0);
+  Coach& coach = plan.coaches[0];
   coach.LD = 40;
   coach.DF = 95;
   coach.EX = 95;
   coach.OF = 100;
-  GameFixture f(spec);
+  GameFixture f(plan);
   const GameSide& s = f.side(0);
   EXPECT_FLOAT_EQ(s.Scaled[kSpd][0], 3.5f);
   EXPECT_FLOAT_EQ(s.Scaled[kInt][0], 2.5f);  // 3.5 - 1.0 is not above 2.5
@@ -37,20 +37,20 @@ TEST(SetupGame, ScalesByConditionAndCoachWithFloorAt2_5) {
   EXPECT_FLOAT_EQ(s.Scaled[kPcc][kFirstG], 7.0f);
   EXPECT_FLOAT_EQ(s.Scaled[kSco][kFirstG], 7.0f);
   // The coach option off: no coach is read.
-  spec.header.OptCoach = kFalse;
-  GameFixture off(spec);
+  plan.header.OptCoach = kFalse;
+  GameFixture off(plan);
   EXPECT_FLOAT_EQ(off.side(0).Scaled[kInt][0], 3.5f);
 }
 
 TEST(SetupGame, GoalieSpeedFloorIsCrossedWithPuckControl) {
-  LeagueSpec spec = SimLeague(4);
-  Player& fast = spec.rosters[1][kFirstG];
+  LeaguePlan plan = SimLeague(4);
+  Player& fast = plan.rosters[1][kFirstG];
   fast.rating(kSpd) = 90;
   fast.rating(kPcc) = 60;
-  Player& slow = spec.rosters[0][kFirstG];
+  Player& slow = plan.rosters[0][kFirstG];
   slow.rating(kSpd) = 50;
   slow.rating(kPcc) = 80;
-  GameFixture f(spec);
+  GameFixture f(plan);
   EXPECT_FLOAT_EQ(f.side(1).Scaled[kSpd][kFirstG], 7.0f);  // lowered, not raised
   EXPECT_FLOAT_EQ(f.side(1).Scaled[kPcc][kFirstG], 6.0f);
   EXPECT_FLOAT_EQ(f.side(0).Scaled[kSpd][kFirstG], 7.0f);
@@ -58,16 +58,16 @@ TEST(SetupGame, GoalieSpeedFloorIsCrossedWithPuckControl) {
 }
 
 TEST(SetupGame, OverworkedGoalieStartsTired) {
-  LeagueSpec spec = SimLeague(4);
+  LeaguePlan plan = SimLeague(4);
   for (int t : {0, 1}) {
-    spec.teams[static_cast<std::size_t>(t)].W[0] = 30;
-    Player& g = spec.rosters[static_cast<std::size_t>(t)][kFirstG];
+    plan.teams[static_cast<std::size_t>(t)].W[0] = 30;
+    Player& g = plan.rosters[static_cast<std::size_t>(t)][kFirstG];
     g.Plus = 60 * 12;  // twelve minutes played all season
     g.Condition = 100;
   }
-  spec.rosters[0][kFirstG].GP = 11;
-  spec.rosters[1][kFirstG].GP = 10;  // not above 10: left alone
-  GameFixture f(spec);
+  plan.rosters[0][kFirstG].GP = 11;
+  plan.rosters[1][kFirstG].GP = 10;  // not above 10: left alone
+  GameFixture f(plan);
   int drawn = f.h.state.player(0, kFirstG).Condition;
   EXPECT_LT(drawn, 100);
   EXPECT_FLOAT_EQ(f.side(0).Energy[kFirstG], drawn == 0 ? 100.0f : static_cast<float>(drawn));
@@ -82,12 +82,12 @@ class CheckingClass : public testing::TestWithParam<CheckingCase> {};
 
 TEST_P(CheckingClass, FollowsDisciplineThenIntelligenceAndStrength) {
   const CheckingCase& c = GetParam();
-  LeagueSpec spec = SimLeague(4);
-  Player& p = spec.rosters[1][12];
+  LeaguePlan plan = SimLeague(4);
+  Player& p = plan.rosters[1][12];
   p.rating(kDis) = static_cast<u8>(c.dis);
   p.rating(kInt) = static_cast<u8>(c.intel);
   p.rating(kStr) = static_cast<u8>(c.str);
-  GameFixture f(spec);
+  GameFixture f(plan);
   EXPECT_EQ(f.side(1).Checking[12], c.expected);
 }
 
@@ -110,9 +110,9 @@ TEST(SetupGame, DressesOnlyTheLineUpAndOpensWithFirstLines) {
 }
 
 TEST(SetLine, SumsDivideByFilledSeatsButCheckingIsATotal) {
-  LeagueSpec spec = SimLeague(4);
-  for (int slot : {0, 4, 12, 14}) SetRatings(spec.rosters[0][static_cast<std::size_t>(slot)], 60);
-  GameFixture f(spec);
+  LeaguePlan plan = SimLeague(4);
+  for (int slot : {0, 4, 12, 14}) SetRatings(plan.rosters[0][static_cast<std::size_t>(slot)], 60);
+  GameFixture f(plan);
   f.game.SetLine(0, 6);  // C, W, D, D and an empty fifth seat
   const GameSide& s = f.side(0);
   EXPECT_EQ(s.OnIce, (std::array<u8, 5>{0, 4, 12, 14, kNoPlayer}));

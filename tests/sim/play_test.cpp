@@ -113,9 +113,9 @@ INSTANTIATE_TEST_SUITE_P(
 class WholeGame : public testing::TestWithParam<unsigned> {};
 
 TEST_P(WholeGame, BooksBalance) {
-  LeagueSpec spec = SimLeague(4, GetParam());
-  HireCoach(spec, 0);
-  GameFixture f(spec, false);
+  LeaguePlan plan = SimLeague(4, GetParam());
+  HireCoach(plan, 0);
+  GameFixture f(plan, false);
   f.h.state.rnd.setMasterSeed(GetParam());
   GameOptions opt;
   opt.isExhibition = true;
@@ -196,10 +196,10 @@ TEST(WholeGame, AfterGameStepRunsOutsideExhibitions) {
 }
 
 TEST(WholeGame, TeamWithoutLinesGetsThemFirst) {
-  LeagueSpec spec = SimLeague(4);
-  spec.teams[1].LinesOK = kFalse;
-  spec.teams[1].Lines.cells.fill(kNoPlayer);
-  GameFixture f(spec, false);
+  LeaguePlan plan = SimLeague(4);
+  plan.teams[1].LinesOK = kFalse;
+  plan.teams[1].Lines.cells.fill(kNoPlayer);
+  GameFixture f(plan, false);
   Game g(f.h.state);
   g.PlayGame(0, 1);
   EXPECT_TRUE(f.h.state.team(1).LinesOK);

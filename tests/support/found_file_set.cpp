@@ -57,13 +57,13 @@ void EnrichTeam(Team& t, std::mt19937& gen) {
 
 }  // namespace
 
-void Enrich(LeagueSpec& spec, unsigned seed) {
+void Enrich(LeaguePlan& plan, unsigned seed) {
   std::mt19937 gen(seed);
-  EnrichHeader(spec.header, gen);
-  for (std::size_t t = 0; t < spec.teams.size(); ++t) {
-    Team& team = spec.teams[t];
+  EnrichHeader(plan.header, gen);
+  for (std::size_t t = 0; t < plan.teams.size(); ++t) {
+    Team& team = plan.teams[t];
     EnrichTeam(team, gen);
-    Coach& c = spec.coaches[t];
+    Coach& c = plan.coaches[t];
     c.Team = static_cast<u8>(t + 1);
     team.CoachRec = static_cast<u8>(t + 1);
     team.Coach.Name = c.Name;
@@ -104,11 +104,11 @@ void WriteOptionalFiles(const std::string& path, int teams, unsigned seed) {
   text(".htr", "- Some Player (T01)<BR>\r\n- Other Player (T02)<BR>\r\n");
 }
 
-std::string WriteLeagueIn(Harness& h, const LeagueSpec& spec, bool optionalFiles, const std::string& name) {
+std::string WriteLeagueIn(Harness& h, const LeaguePlan& plan, bool optionalFiles, const std::string& name) {
   fs::create_directories(LeagueDir(h));
   std::string path = (LeagueDir(h) / name).string();
-  WriteLeague(spec, path);
-  if (optionalFiles) WriteOptionalFiles(path, static_cast<int>(spec.teams.size()), 7);
+  WriteLeague(plan, path);
+  if (optionalFiles) WriteOptionalFiles(path, static_cast<int>(plan.teams.size()), 7);
   return path;
 }
 

@@ -22,13 +22,13 @@ Bytes RandomBytes(std::size_t n, std::mt19937& gen);
 // Gives the fields that are only stored arbitrary values, links every team to
 // its coach (both ways) and marks some teams Waived, so that a league saved
 // right after its load must come back byte for byte.
-void Enrich(LeagueSpec& spec, unsigned seed);
+void Enrich(LeaguePlan& plan, unsigned seed);
 
 // Writes .fas .dft .eml .rec .csr .tra .htr .wvr .scx .pri beside a written league.
 void WriteOptionalFiles(const std::string& path, int teams, unsigned seed);
 
 // A written league in h's folder "league"; the path without extension.
-std::string WriteLeagueIn(Harness& h, const LeagueSpec& spec, bool optionalFiles, const std::string& name = "test");
+std::string WriteLeagueIn(Harness& h, const LeaguePlan& plan, bool optionalFiles, const std::string& name = "test");
 
 // The league folder of a harness.
 inline fs::path LeagueDir(const Harness& h) { return h.dir.path() / "league"; }

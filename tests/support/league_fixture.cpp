@@ -89,12 +89,12 @@ std::vector<Player> StandardRoster(int t, unsigned seed) {
 
 }  // namespace
 
-LeagueSpec StandardLeague(int teams, unsigned seed) {
-  LeagueSpec spec;
-  spec.header = DefaultLeagueHeader();
-  spec.header.LeagueName.set("Test League");
-  spec.header.NumTeams = static_cast<u8>(teams);
-  Align(spec.header, teams);
+LeaguePlan StandardLeague(int teams, unsigned seed) {
+  LeaguePlan plan;
+  plan.header = DefaultLeagueHeader();
+  plan.header.LeagueName.set("Test League");
+  plan.header.NumTeams = static_cast<u8>(teams);
+  Align(plan.header, teams);
   for (int t = 0; t < teams; ++t) {
     Team team;
     team.Name.set(fmt::format("Team{}", t));
@@ -106,35 +106,35 @@ LeagueSpec StandardLeague(int teams, unsigned seed) {
     team.Conf = static_cast<u8>(at.conf);
     team.Div = static_cast<u8>(at.div);
     team.Lines.cells.fill(kNoPlayer);
-    spec.teams.push_back(team);
-    spec.rosters.push_back(StandardRoster(t, seed));
+    plan.teams.push_back(team);
+    plan.rosters.push_back(StandardRoster(t, seed));
     Coach c;
     c.Name.set(fmt::format("Coach {}", t));
     c.OF = c.DF = c.EX = c.LD = 50;
     c.Salary = 300000;
-    spec.coaches.push_back(c);
+    plan.coaches.push_back(c);
   }
-  return spec;
+  return plan;
 }
 
-void WriteLeague(const LeagueSpec& spec, const std::string& path) {
+void WriteLeague(const LeaguePlan& plan, const std::string& path) {
   auto write = [&](const std::string& ext, const Bytes& bytes) { WriteFileAtomic(path + ext, bytes); };
-  League stored = spec.header;
+  League stored = plan.header;
   stored.NumTeams = static_cast<u8>(stored.NumTeams - 1);
   write(".lge", EncodeRecord(stored));
   Bytes tms, ros, pct, dpk, coa, frm, drs;
   auto append = [](Bytes& to, const Bytes& rec) { to.insert(to.end(), rec.begin(), rec.end()); };
-  for (std::size_t t = 0; t < spec.teams.size(); ++t) {
-    append(tms, EncodeRecord(spec.teams[t]));
+  for (std::size_t t = 0; t < plan.teams.size(); ++t) {
+    append(tms, EncodeRecord(plan.teams[t]));
     for (int slot = 0; slot < kRosterSlots; ++slot) {
-      const auto& r = spec.rosters[t];
+      const auto& r = plan.rosters[t];
       append(ros, EncodeRecord(static_cast<std::size_t>(slot) < r.size() ? r[static_cast<std::size_t>(slot)] : Player{}));
     }
     append(pct, EncodeRecord(ProspectList{}));
     append(dpk, EncodeRecord(DraftPickRecord{}));
     append(frm, EncodeRecord(FarmTeam{}));
   }
-  for (const auto& c : spec.coaches) append(coa, EncodeRecord(c));
+  for (const auto& c : plan.coaches) append(coa, EncodeRecord(c));
   append(drs, EncodeRecord(DbRecord{}));
   write(".tms", tms);
   write(".ros", ros);
@@ -149,10 +149,10 @@ Harness::Harness() : home(dir.path() / "home"), state(ui, clock, home) {
   PrepareHomeFolder(home);
 }
 
-std::string Harness::load(const LeagueSpec& spec, const std::string& name) {
+std::string Harness::load(const LeaguePlan& plan, const std::string& name) {
   fs::create_directories(dir.path() / "league");
   std::string path = (dir.path() / "league" / name).string();
-  WriteLeague(spec, path);
+  WriteLeague(plan, path);
   LoadLg(state, path);
   return path;
 }

@@ -30,7 +30,7 @@ class TempDir {
 Player MakePlayer(const std::string& name, int pos, int level, int status = 200);
 
 // What a crafted league holds before it is written.
-struct LeagueSpec {
+struct LeaguePlan {
   League header;
   std::vector<Team> teams;
   std::vector<std::vector<Player>> rosters;  // per team, up to 50 slots
@@ -40,9 +40,9 @@ struct LeagueSpec {
 // `teams` teams in two conferences of two divisions (four above 40 teams), each with a legal dressed
 // roster (4 C, 4 LW, 4 RW, 7 D, 3 G; 20 dressed) and two minor leaguers. Ratings
 // vary by team and slot with `seed`.
-LeagueSpec StandardLeague(int teams, unsigned seed = 1);
+LeaguePlan StandardLeague(int teams, unsigned seed = 1);
 // Writes the file set (.lge .tms .ros .pct .drs .dpk .coa .frm) at `path` (no extension).
-void WriteLeague(const LeagueSpec& spec, const std::string& path);
+void WriteLeague(const LeaguePlan& plan, const std::string& path);
 
 // A home folder, a scripted user, a fixed clock and a league state over them.
 struct Harness {
@@ -52,8 +52,8 @@ struct Harness {
   ScriptedUi ui;
   FixedClock clock{46000.5};
   LeagueState state;
-  // Writes `spec` as home/league/<name> and loads it.
-  std::string load(const LeagueSpec& spec, const std::string& name = "test");
+  // Writes `plan` as home/league/<name> and loads it.
+  std::string load(const LeaguePlan& plan, const std::string& name = "test");
 };
 
 }  // namespace kvl::test

@@ -48,10 +48,10 @@ void AlignInMemory(LeagueState& s, const Alignment& a) {
   for (int t = 0; t < n; ++t) s.team(t) = teams[static_cast<std::size_t>(t)];
 }
 
-LeagueSpec AlignedLeague(const Alignment& a, unsigned seed) {
-  LeagueSpec spec = StandardLeague(TeamCount(a), seed);
-  ApplyAlignment(spec.header, spec.teams, a);
-  return spec;
+LeaguePlan AlignedLeague(const Alignment& a, unsigned seed) {
+  LeaguePlan plan = StandardLeague(TeamCount(a), seed);
+  ApplyAlignment(plan.header, plan.teams, a);
+  return plan;
 }
 
 }  // namespace kvl::test

@@ -16,7 +16,7 @@ void ApplyAlignment(League& header, std::vector<Team>& teams, const Alignment& a
 // The same on a league held in memory only (enough for the allotment).
 void AlignInMemory(LeagueState& s, const Alignment& a);
 // A StandardLeague of the alignment's size, realigned.
-LeagueSpec AlignedLeague(const Alignment& a, unsigned seed = 1);
+LeaguePlan AlignedLeague(const Alignment& a, unsigned seed = 1);
 
 int TeamCount(const Alignment& a);
 

@@ -21,29 +21,29 @@ void FillStandardLines(LineTable& lines) {
   row(12, {kFirstG, 3, 16});
 }
 
-LeagueSpec SimLeague(int teams, unsigned seed) {
-  LeagueSpec spec = StandardLeague(teams, seed);
-  for (auto& roster : spec.rosters) {
+LeaguePlan SimLeague(int teams, unsigned seed) {
+  LeaguePlan plan = StandardLeague(teams, seed);
+  for (auto& roster : plan.rosters) {
     roster[18].Status = 100;
     roster[20].Status = 200;
   }
-  for (auto& t : spec.teams) {
+  for (auto& t : plan.teams) {
     FillStandardLines(t.Lines);
     t.LinesOK = kTrue;
   }
-  return spec;
+  return plan;
 }
 
-void HireCoach(LeagueSpec& spec, int team) {
+void HireCoach(LeaguePlan& plan, int team) {
   std::size_t t = static_cast<std::size_t>(team);
-  spec.teams[t].CoachRec = static_cast<u8>(team + 1);
-  spec.teams[t].Coach.Name = spec.coaches[t].Name;
-  spec.coaches[t].Team = static_cast<u8>(team + 1);
+  plan.teams[t].CoachRec = static_cast<u8>(team + 1);
+  plan.teams[t].Coach.Name = plan.coaches[t].Name;
+  plan.coaches[t].Team = static_cast<u8>(team + 1);
 }
 
-GameFixture::GameFixture(const LeagueSpec& spec, bool setup) {
+GameFixture::GameFixture(const LeaguePlan& plan, bool setup) {
   h.state.rnd.setMasterSeed(7);
-  h.load(spec);
+  h.load(plan);
   if (setup) game.SetupGame(0, 1);
 }
 

@@ -15,14 +15,14 @@ constexpr int kFirstLW = 4, kFirstRW = 8, kFirstD = 12, kFirstG = 19;
 // and penalty-kill units, the starter in slot 19 and two spare skaters.
 void FillStandardLines(LineTable& lines);
 // StandardLeague with D 7 scratched, the second goalie dressed and lines set.
-LeagueSpec SimLeague(int teams, unsigned seed = 1);
+LeaguePlan SimLeague(int teams, unsigned seed = 1);
 
-// Links coach record t + 1 of the spec to team t, as the coach check expects.
-void HireCoach(LeagueSpec& spec, int team);
+// Links coach record t + 1 of the plan to team t, as the coach check expects.
+void HireCoach(LeaguePlan& plan, int team);
 
 // A loaded league and a game over it; `setup` runs SetupGame(0, 1).
 struct GameFixture {
-  explicit GameFixture(const LeagueSpec& spec, bool setup = true);
+  explicit GameFixture(const LeaguePlan& plan, bool setup = true);
   Harness h;
   Game game{h.state};
   GameSide& side(int sd) { return game.sideOf(sd); }

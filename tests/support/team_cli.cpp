@@ -7,10 +7,10 @@
 
 namespace kvl::test {
 
-KvlCli::KvlCli(const LeagueSpec& spec)
+KvlCli::KvlCli(const LeaguePlan& plan)
     : home_((dir_.path() / "home").string()), league_((dir_.path() / "league" / "cli").string()) {
   fs::create_directories(dir_.path() / "league");
-  WriteLeague(spec, league_);
+  WriteLeague(plan, league_);
 }
 
 CliRun KvlCli::run(const std::string& args) const {

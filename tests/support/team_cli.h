@@ -13,8 +13,8 @@ struct CliRun {
 
 class KvlCli {
  public:
-  // Writes `spec` under a temporary folder; the first run opens it.
-  explicit KvlCli(const LeagueSpec& spec);
+  // Writes `plan` under a temporary folder; the first run opens it.
+  explicit KvlCli(const LeaguePlan& plan);
   // `args` go after the global options; the league is named on every run.
   CliRun run(const std::string& args) const;
   std::string leaguePath() const { return league_; }

@@ -17,12 +17,12 @@ std::vector<std::string> TransactionLines(const LeagueState& s) {
   return out;
 }
 
-void HireStandardCoaches(LeagueSpec& spec) {
-  for (std::size_t t = 0; t < spec.teams.size(); ++t) {
-    spec.teams[t].CoachRec = static_cast<u8>(t + 1);
-    spec.teams[t].Coach.Name = spec.coaches[t].Name;
-    spec.teams[t].Coach.Salary = spec.coaches[t].Salary;
-    spec.coaches[t].Team = static_cast<u8>(t + 1);
+void HireStandardCoaches(LeaguePlan& plan) {
+  for (std::size_t t = 0; t < plan.teams.size(); ++t) {
+    plan.teams[t].CoachRec = static_cast<u8>(t + 1);
+    plan.teams[t].Coach.Name = plan.coaches[t].Name;
+    plan.teams[t].Coach.Salary = plan.coaches[t].Salary;
+    plan.coaches[t].Team = static_cast<u8>(t + 1);
   }
 }
 

@@ -10,7 +10,7 @@ namespace kvl::test {
 // The lines of the season's transaction log (swp.tr), without line breaks.
 std::vector<std::string> TransactionLines(const LeagueState& s);
 // StandardLeague's coach t hired by team t, for every team.
-struct LeagueSpec;
-void HireStandardCoaches(LeagueSpec& spec);
+struct LeaguePlan;
+void HireStandardCoaches(LeaguePlan& plan);
 
 }  // namespace kvl::test

@@ -44,16 +44,16 @@ TEST(AutoAllTest, EveryTeamOfAFullLeagueIsSetAndPassesTheRosterCheck) {
 }
 
 TEST(AutoAllTest, ShortTeamsAreLeftAsTheyAreWithTheirShortagesAndGapsAreClosed) {
-  LeagueSpec spec = StandardLeague(2);
-  auto& shortRoster = spec.rosters[1];
+  LeaguePlan plan = StandardLeague(2);
+  auto& shortRoster = plan.rosters[1];
   // Keep one centre of four and the minor-league D; drop the minor centre.
   std::erase_if(shortRoster, [](const Player& p) {
     std::string n = p.Name.str();
     return n == "T1 C 2" || n == "T1 C 3" || n == "T1 C 4" || n == "T1 Minor 1" || n == "T1 D 7";
   });
-  spec.rosters[0][5] = Player{};  // a gap that AutoAll closes
+  plan.rosters[0][5] = Player{};  // a gap that AutoAll closes
   Harness h;
-  h.load(spec);
+  h.load(plan);
   loadteam(h.state, 1, 0);
   auto before = h.state.Player[0];
   AutoAllResult r = AutoAll(h.state);

@@ -26,9 +26,9 @@ TEST(TeamCommandsTest, AutoAllSetsEveryTeamAndTheLinesShowNoEmptySlot) {
 }
 
 TEST(TeamCommandsTest, RefusalsTellTheSystemsWordsExitOneAndKeepNothing) {
-  LeagueSpec spec = StandardLeague(4);
-  spec.rosters[0][0].Status = 102;  // an injured scratch
-  KvlCli cli(spec);
+  LeaguePlan plan = StandardLeague(4);
+  plan.rosters[0][0].Status = 102;  // an injured scratch
+  KvlCli cli(plan);
   struct Case {
     std::string args, says;
   } cases[] = {

@@ -23,12 +23,12 @@ TEST(CoachRulesTest, StyleFollowsTheGapBetweenOffenceAndDefence) {
 struct CoachTest : ::testing::Test {
   Harness h;
   void SetUp() override {
-    LeagueSpec spec = StandardLeague(4);
-    HireStandardCoaches(spec);
-    spec.teams[3].CoachRec = 0;  // team 3 has no coach; coach 4 is free
-    spec.teams[3].Coach = TeamCoach{};
-    spec.coaches[3].Team = Coach::kNoTeam;
-    h.load(spec);
+    LeaguePlan plan = StandardLeague(4);
+    HireStandardCoaches(plan);
+    plan.teams[3].CoachRec = 0;  // team 3 has no coach; coach 4 is free
+    plan.teams[3].Coach = TeamCoach{};
+    plan.coaches[3].Team = Coach::kNoTeam;
+    h.load(plan);
   }
   Coach onFile(std::size_t rec) { return ReadCoaches(h.state).at(rec); }
 };

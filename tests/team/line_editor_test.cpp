@@ -15,9 +15,9 @@ struct LineEditorTest : ::testing::Test {
   Harness h;
   void SetUp() override { open(Squad({4, 4, 4, 6, 2}, 70)); }
   void open(const std::vector<Player>& roster) {
-    LeagueSpec spec = StandardLeague(2);
-    spec.rosters[0] = roster;
-    h.load(spec);
+    LeaguePlan plan = StandardLeague(2);
+    plan.rosters[0] = roster;
+    h.load(plan);
   }
 };
 
@@ -96,9 +96,9 @@ TEST_F(LineEditorTest, AutoNeedsExactlyTwentyDressed) {
     if (extra < 0) r[0].Status = 100;
     else r.push_back(Rated(kCentre, 50));
     Harness fresh;
-    LeagueSpec spec = StandardLeague(2);
-    spec.rosters[0] = r;
-    fresh.load(spec);
+    LeaguePlan plan = StandardLeague(2);
+    plan.rosters[0] = r;
+    fresh.load(plan);
     LineEditor e(fresh.state, 0);
     e.cmdAuto();
     std::string n = extra < 0 ? "19" : "21";
@@ -141,9 +141,9 @@ TEST_F(LineEditorTest, NoDropsTheChangesAndClosingSaysSo) {
 
 TEST(LineEditorOpenTest, WarnsWhenNobodyIsDressed) {
   Harness h;
-  LeagueSpec spec = StandardLeague(2);
-  spec.rosters[0] = Squad({4, 4, 4, 6, 2}, 70, 100);
-  h.load(spec);
+  LeaguePlan plan = StandardLeague(2);
+  plan.rosters[0] = Squad({4, 4, 4, 6, 2}, 70, 100);
+  h.load(plan);
   LineEditor e(h.state, 0);
   EXPECT_TRUE(h.ui.told("There are not enough players. Set roster first", "Roster warning"));
   EXPECT_EQ(e.caption(), "Lines for Team0");

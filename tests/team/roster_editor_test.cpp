@@ -18,9 +18,9 @@ namespace {
 struct RosterEditorTest : ::testing::Test {
   Harness h;
   void open(const std::vector<Player>& roster) {
-    LeagueSpec spec = StandardLeague(2);
-    spec.rosters[0] = roster;
-    h.load(spec);
+    LeaguePlan plan = StandardLeague(2);
+    plan.rosters[0] = roster;
+    h.load(plan);
   }
   Player& at(int i) { return h.state.player(0, i); }
   std::vector<int> indexes(const RosterEditor& e, int list) {
@@ -42,9 +42,9 @@ TEST_F(RosterEditorTest, CaptionCallsARosterCompleteOnlyWhenItFitsTheRules) {
   };
   for (const auto& c : cases) {
     Harness fresh;
-    LeagueSpec spec = StandardLeague(2);
-    spec.rosters[0] = Join({Squad(c.dressed, 70), Squad({1, 1, 1, 1, 1}, 40, 100)});
-    fresh.load(spec);
+    LeaguePlan plan = StandardLeague(2);
+    plan.rosters[0] = Join({Squad(c.dressed, 70), Squad({1, 1, 1, 1, 1}, 40, 100)});
+    fresh.load(plan);
     RosterEditor e(fresh.state, 0);
     EXPECT_EQ(e.caption(), c.caption);
     EXPECT_EQ(e.list(kScratchList).size(), 5u);
