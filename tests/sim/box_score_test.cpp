@@ -4,28 +4,15 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <fstream>
 
 #include "sim/exhibition.h"
+#include "support/golden.h"
 #include "support/sim_league.h"
 #include "util/numbers.h"
 #include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
-
-std::string ReadAll(const fs::path& p) {
-  std::ifstream in(p, std::ios::binary);
-  return std::string(std::istreambuf_iterator<char>(in), {});
-}
-
-void WriteText(const fs::path& p, const std::string& text) {
-  std::ofstream out(p, std::ios::binary);
-  out << text;
-}
-
-fs::path GoldenPath(const std::string& name) { return fs::path(__FILE__).parent_path() / "golden" / name; }
 
 // A game of the standard league played with a fixed seed.
 class SeededGame : public testing::Test {
@@ -41,9 +28,7 @@ class SeededGame : public testing::Test {
 TEST_F(SeededGame, PageMatchesTheGoldenText) {
   std::string page;
   for (const auto& line : BoxScoreLines(game, BoxScoreInfo{})) page += line + "\r\n";
-  fs::path golden = GoldenPath("exhibition_seed42.html");
-  if (std::getenv("KVL_UPDATE_GOLDEN")) WriteText(golden, page);
-  EXPECT_EQ(page, ReadAll(golden));
+  ExpectGolden(__FILE__, "exhibition_seed42.html", page);
 }
 
 TEST_F(SeededGame, SeasonPageCarriesTheFinancialLines) {

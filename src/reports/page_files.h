@@ -1,0 +1,22 @@
+#pragma once
+// Where pages go and what frames them: Transfer/ for the pages, Headers/ for
+// the commissioner's header and footer files, both under the home folder and
+// named with the league's short name.
+#include <string>
+#include <vector>
+
+#include "league/league_state.h"
+
+namespace kvl {
+
+// Transfer/<league><name>.
+fs::path TransferFile(const LeagueState& s, const std::string& name);
+// Headers/<league>.hdN and .ftN.
+fs::path HeaderFile(const LeagueState& s, int n);
+fs::path FooterFile(const LeagueState& s, int n);
+// Appends the lines of a header or footer file; false when there is none.
+bool ReadPageLines(const fs::path& path, std::vector<std::string>& out);
+// Writes the lines with CR LF ends, making Transfer/ when it is missing.
+void WritePage(const fs::path& path, const std::vector<std::string>& lines);
+
+}  // namespace kvl
