@@ -11,6 +11,7 @@ constexpr int kProRosterLimit = 25;
 constexpr u8 kDressedHealthy = 200;
 constexpr u8 kScratch = 100;
 constexpr u8 kHoldOut = 99;  // Suspended: a hold-out, off the pro roster count
+constexpr u8 kPersonal = 88;  // Suspended: away for personal reasons
 constexpr int kAnySkater = 5;  // a position argument: any Pos but goalie
 
 // How a picker ranks: by OffenseRating, DefenseRating or Overall.

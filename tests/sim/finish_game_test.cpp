@@ -1,0 +1,164 @@
+// After the game: streaks, the gate and the money worked by hand, the
+// suspension's days, and the farm game.
+#include "sim/finish_game.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "sim/farm_game.h"
+#include "support/sim_league.h"
+
+namespace kvl::test {
+namespace {
+
+TEST(UpdateStreak, CountsRunsAndWrapsAsTheByteDoes) {
+  struct Row {
+    int before, code, after;
+    const char* why;
+  } rows[] = {
+      {0, kStreakWin, 201, "a first game starts a run"},
+      {203, kStreakWin, 204, "a run goes on"},
+      {203, kStreakLoss, 1, "another result starts over"},
+      {105, kStreakTie, 106, "ties run too"},
+      {99, kStreakLoss, 100, "a 100-game losing run reads as a tie code"},
+      {255, kStreakWin, 0, "past 255 the byte wraps"},
+  };
+  for (const Row& r : rows) {
+    Team t;
+    t.Streak = static_cast<u8>(r.before);
+    UpdateStreak(t, r.code);
+    EXPECT_EQ(t.Streak, r.after) << r.why;
+  }
+}
+
+// A set-up game between teams 0 and 1 with nobody rated 80 or more.
+struct GateGame : GameFixture {
+  GateGame() : GameFixture(SimLeague(4)) {
+    for (int sd = 0; sd < 2; ++sd)
+      for (int slot = 0; slot < kRosterSlots; ++slot) {
+        Player& p = h.state.player(sd, slot);
+        for (int r = 0; r < kRatingCount - 1; ++r) p.rating(r) = 50;
+        p.Salary = 0;
+      }
+    Team& home = h.state.team(1);
+    home.Ticket = 25;
+    home.Seats = 30000;
+    home.W[0] = 10, home.L[0] = 5, home.T[0] = 5;  // rate .625
+    home.Conf = 0, home.Div = 0;
+    Team& away = h.state.team(0);
+    away.W[0] = away.L[0] = away.T[0] = 0;  // no games: .56
+    away.Conf = 1, away.Div = 0;
+  }
+  // The noise the next draw will make: 0.96 to 1.05.
+  double Noise() {
+    Rnd copy = h.state.rnd;
+    return (100 + copy(10) - 5) / 100.0;
+  }
+};
+
+TEST(Attendance, WorkedByHand) {
+  GateGame g;
+  const double noise = g.Noise();
+  const double expected = 25 / std::pow(25.0, 1.05) * 17000 * 1.125 * (0.56 / 2 + 0.75) * noise;
+  EXPECT_EQ(Attendance(g.game), static_cast<int>(std::floor(expected)));
+}
+
+TEST(Attendance, IsCappedBySeatsAndReadsTicketZeroAsTwenty) {
+  GateGame g;
+  g.h.state.team(1).Seats = 9000;
+  EXPECT_EQ(Attendance(g.game), 9000);
+  g.h.state.team(1).Seats = static_cast<i16>(40000);
+  g.h.state.team(1).Ticket = 0;
+  const double noise = g.Noise();
+  const double expected = 25 / std::pow(20.0, 1.05) * 17000 * 1.125 * 1.03 * noise;
+  EXPECT_EQ(Attendance(g.game), static_cast<int>(std::floor(expected)));
+}
+
+TEST(GameFinances, BooksTheGateAndBothTeamsDailyCosts) {
+  GateGame g;
+  LeagueState& s = g.h.state;
+  s.league.OptMoney = kTrue;
+  s.league.LeagueGames = 40;  // 4 teams: 20 games each
+  s.league.FinancesLevel() = 5;
+  for (int sd = 0; sd < 2; ++sd) {
+    s.player(sd, 0).Salary = 5000000;  // slot 0 is never paid
+    s.player(sd, 1).Salary = 2000000;  // dressed
+    s.player(sd, 1).Suspended = 0;
+    s.player(sd, 2).Salary = 3000000;  // suspended: not paid
+    s.player(sd, 2).Suspended = 2;
+    Player& farm = s.player(sd, 25);  // a minor leaguer below TwoWayAfter: a tenth
+    farm = MakePlayer("Farm Hand", kCentre, 50, 0);
+    farm.Salary = 1000000;
+    farm.GP = 0;
+    s.team(sd).Coach.Salary = 500000;
+    s.team(sd).CurFin = 0;
+  }
+  s.league.TwoWayAfter = 10;
+  const double net = GameNet(s, 1, 10000);
+  EXPECT_DOUBLE_EQ(net, 10000 * 25 * 0.6);
+  GameFinances(g.game, net, 10000);
+  const int daily = (2000000 + 100000 + 500000) / 20;
+  EXPECT_EQ(s.team(1).CurFin, 150000 - daily);
+  EXPECT_EQ(s.team(0).CurFin, -daily);
+  EXPECT_EQ(s.team(1).HomeGames, 1);
+  EXPECT_EQ(s.team(1).Attendance, 10000);
+  EXPECT_EQ(s.team(1).Revenue, 150000);
+}
+
+TEST(GameNet, FollowsTheFinancesLevel) {
+  GateGame g;
+  const std::pair<int, double> levels[] = {{1, 0.2}, {4, 0.5}, {5, 0.6}, {6, 1.2}, {9, 2.1}};
+  for (auto [level, factor] : levels) {
+    g.h.state.league.FinancesLevel() = static_cast<u8>(level);
+    EXPECT_NEAR(GameNet(g.h.state, 1, 1000), 1000 * 25 * factor, 1e-6) << "level " << level;
+  }
+}
+
+TEST(SuspensionDays, OneGameUnlessTheInjuryOrTheFightWasBad) {
+  GameFixture f(SimLeague(4));
+  GameSide& own = f.side(0);
+  const int slot = kFirstD;
+  struct Row {
+    int victimClass, pim, low, high;
+    const char* why;
+  } rows[] = {
+      {0, 5, 1, 1, "no injury done: one game"},
+      {1, 5, 1, 1, "a light injury: one game"},
+      {6, 5, 1, 5, "a grave injury: up to five"},
+      {0, 25, 1, 5, "a fighting major: more may follow"},
+  };
+  for (const Row& r : rows) {
+    f.h.state.player(1, 0).Status = static_cast<u8>(200 + r.victimClass);
+    own.HurtBy[slot] = 0;
+    own.PIM[slot] = r.pim;
+    int most = 0;
+    for (int n = 0; n < 300; ++n) {
+      int days = SuspensionDays(f.game, 0, slot);
+      EXPECT_GE(days, r.low) << r.why;
+      EXPECT_LE(days, r.high) << r.why;
+      most = std::max(most, days);
+    }
+    if (r.high > 1) {
+      EXPECT_GT(most, 1) << r.why;
+    }
+  }
+}
+
+TEST(FarmGame, AClubWithoutAGoalieStillPlays) {
+  GameFixture f(SimLeague(4));
+  LeagueState& s = f.h.state;
+  for (int slot = 0; slot < kRosterSlots; ++slot)
+    if (s.player(1, slot).list() == 0 && s.player(1, slot).Pos == kGoalie) s.player(1, slot).Pos = kCentre;
+  std::vector<std::string> box = PlayFarmGame(s, 0, 1);
+  ASSERT_GE(box.size(), 3u);
+  EXPECT_EQ(box[1], std::string(37, '-'));
+  EXPECT_EQ(box.back().substr(box.back().rfind(", ") + 2), "unknown");
+  const FarmTeam &a = s.Farm[0], &h = s.Farm[1];
+  EXPECT_EQ(a.W + a.L + a.T, 1);
+  EXPECT_EQ(a.GF, h.GA);
+  EXPECT_EQ(a.W, h.L);
+}
+
+}  // namespace
+}  // namespace kvl::test
