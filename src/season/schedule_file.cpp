@@ -1,5 +1,6 @@
 #include "season/schedule_file.h"
 
+#include <algorithm>
 #include <set>
 
 #include "league/league_files.h"
@@ -21,12 +22,17 @@ std::vector<ScheduleRecord> ReadSchedule(const fs::path& file) {
   return games;
 }
 
-std::vector<std::vector<std::size_t>> GameDays(const std::vector<ScheduleRecord>& games) {
+bool EndsPass(const ScheduleRecord& r, int numTeams) {
+  const int limit = std::max(kDriverTeamLimit, numTeams);
+  return r.HomeTeam >= limit || r.AwayTeam >= limit;
+}
+
+std::vector<std::vector<std::size_t>> GameDays(const std::vector<ScheduleRecord>& games, int numTeams) {
   std::vector<std::vector<std::size_t>> days;
   std::set<int> playing;
   for (std::size_t k = 0; k < games.size(); ++k) {
     const ScheduleRecord& g = games[k];
-    if (g.HomeTeam >= kDriverTeamLimit || g.AwayTeam >= kDriverTeamLimit) break;
+    if (EndsPass(g, numTeams)) break;
     if (days.empty() || playing.count(g.HomeTeam) || playing.count(g.AwayTeam)) {
       days.emplace_back();
       playing.clear();

@@ -10,9 +10,14 @@ namespace kvl {
 
 std::vector<ScheduleRecord> ReadSchedule(const fs::path& file);
 
-// Record indexes (from 0) grouped into game days as the game driver reads them.
-// A team number of 49 or more ends the reading, as it ends the driver's pass.
-std::vector<std::vector<std::size_t>> GameDays(const std::vector<ScheduleRecord>& games);
+// True when the record ends the game driver's pass: a team number of 49 or
+// more that is no team of a league of `numTeams` (a 50-team league's team 49
+// plays like any other).
+bool EndsPass(const ScheduleRecord& r, int numTeams);
+
+// Record indexes (from 0) grouped into game days as the game driver reads them,
+// up to the record that ends its pass.
+std::vector<std::vector<std::size_t>> GameDays(const std::vector<ScheduleRecord>& games, int numTeams);
 
 // A new schedule supersedes the league's old-format .scd: its content is kept
 // as .scdold and the .scd (and its swap copy) deleted.

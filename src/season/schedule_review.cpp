@@ -40,7 +40,7 @@ bool RevSched(LeagueState& s, std::optional<int> day) {
     s.ui.print("No Schedule\n");
     return true;
   }
-  auto days = GameDays(games);
+  auto days = GameDays(games, s.numTeams());
   int count = static_cast<int>(days.size());
   if (day && (*day < 1 || *day > count)) {
     s.ui.tell(fmt::format("There is no game day {}: the schedule has {} game days.", *day, count), kTitle);

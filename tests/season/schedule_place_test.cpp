@@ -212,11 +212,12 @@ TEST(GameDays, RunUntilATeamComesRoundAgain) {
     return r;
   };
   std::vector<ScheduleRecord> games{game(0, 1), game(2, 3), game(3, 4), game(5, 6), game(6, 0), game(49, 1), game(1, 2)};
-  auto days = GameDays(games);
+  auto days = GameDays(games, 8);
   ASSERT_EQ(days.size(), 3u);
   EXPECT_EQ(days[0], (std::vector<std::size_t>{0, 1}));
   EXPECT_EQ(days[1], (std::vector<std::size_t>{2, 3}));
   EXPECT_EQ(days[2], (std::vector<std::size_t>{4})) << "team 49 ends the reading";
+  EXPECT_EQ(GameDays(games, 50).size(), 4u) << "a 50-team league's team 49 plays";
 }
 
 }  // namespace

@@ -1,0 +1,7 @@
+#include "reports/auto_output.h"
+
+namespace kvl {
+
+void AutoHTMLOutput(LeagueState&) {}
+
+}  // namespace kvl

@@ -1,0 +1,60 @@
+#pragma once
+// The Games console: plays what the schedule says, one game day at a time. A
+// day is the run of records from the first unplayed one until a team would
+// play twice; after it the teams that did not play rest, the waivers day runs
+// and the pages may be published.
+#include <array>
+#include <chrono>
+#include <string>
+#include <vector>
+
+#include "league/league_state.h"
+
+namespace kvl {
+
+class Games {
+ public:
+  // Opening the console: the season's state and the next games.
+  explicit Games(LeagueState& s);
+
+  // Plays one game day; false, after telling, when the season is over.
+  bool PlayGameDay();
+  // The play commands answer false when they played nothing: no schedule,
+  // the season over, or the question answered no.
+  // Play one day.
+  bool MultipleGames();
+  // Play `days` days after the question; below 1 does nothing.
+  bool BulkGameButton(int days);
+  // Play the full season after the question.
+  bool Command5();
+  // Plays to the end of the schedule without a question (the playoffs use it).
+  bool PlayToEnd();
+  // Rest Day: every team rests one day.
+  void cmdHelp();
+  // The next games, up to twenty lines.
+  void RefreshGameList();
+
+  bool IsExhibition = false;
+  bool IsBatchRunning = false;
+  bool IsSeasonOver = false;
+  bool StopRequested = false;
+  bool NeedsRefresh = false;
+  i16 GameNumber = 0;
+  std::vector<std::string> GameList;
+
+  // What this console has played, for the front ends' summaries.
+  int gamesPlayed = 0, daysPlayed = 0;
+
+ private:
+  bool RefuseWithoutSchedule();
+  void PlayRecord(std::vector<ScheduleRecord>& games, std::size_t index);
+  void RestTeams(const std::array<bool, kMaxTeams>& played);
+  bool RunDays(int days);
+  void ShowProgress(int day, int days);
+
+  LeagueState& s_;
+  std::chrono::steady_clock::time_point runStart_;
+  int runStartGames_ = 0;
+};
+
+}  // namespace kvl

@@ -1,0 +1,7 @@
+#include "transactions/waivers_day.h"
+
+namespace kvl {
+
+void WaiversDay(LeagueState&) {}
+
+}  // namespace kvl
