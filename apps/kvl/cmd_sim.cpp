@@ -1,9 +1,12 @@
-// Games: the exhibition and the calibration report.
+// Games: game days, the exhibition and the calibration report.
 #include <fmt/format.h>
 
 #include "console/league_view.h"
 #include "session.h"
+#include "util/error.h"
+#include "reports/page_files.h"
 #include "sim/exhibition.h"
+#include "sim/game_day.h"
 #include "sim/sim_profile.h"
 
 namespace kvl {
@@ -25,6 +28,39 @@ void RegisterExhibition(CLI::App& app, Session& s) {
       });
   cmd->add_option("AWAY", *away, "the visitors: team number or name")->required();
   cmd->add_option("HOME", *home, "the home team: team number or name")->required();
+}
+
+struct PlayArgs {
+  std::optional<int> days;
+  bool season = false, restDay = false;
+};
+
+void PlayGames(Session& s, const PlayArgs& a) {
+  Games games(s.state);
+  if (a.restDay) return games.cmdHelp();
+  bool ran = a.season ? games.Command5() : a.days ? games.BulkGameButton(*a.days) : games.MultipleGames();
+  if (!ran) throw Refused("no games");
+  const League& l = s.state.league;
+  std::string text = fmt::format("Played {} games in {} game days; {} of {} games of the schedule are played.\n",
+                                 games.gamesPlayed, games.daysPlayed, l.GamesPlayed, l.LeagueGames);
+  if (games.StopRequested) text += "Stopped by the interrupt between game days.\n";
+  if (games.IsSeasonOver) text += "The season is over.\n";
+  text += fmt::format("Box scores and the daily page: {}\n", TransferFile(s.state, "TodayGames.html").string());
+  s.ui.print(text);
+}
+
+void RegisterPlayGames(CLI::App& app, Session& s) {
+  auto args = std::make_shared<PlayArgs>();
+  CLI::App* cmd = AddCommand(app, s, "play-games",
+                             "Play the next game day of the schedule (or N days, or the rest of the season); box "
+                             "scores and the daily page go to Transfer/",
+                             true, [&s, args] { PlayGames(s, *args); });
+  auto* days = cmd->add_option("--days", args->days, "play N game days (a positive whole number)")
+                   ->check(CLI::PositiveNumber);
+  auto* season = cmd->add_flag("--season", args->season, "play to the end of the schedule")->excludes(days);
+  cmd->add_flag("--rest-day", args->restDay, "rest every team one day instead of playing")
+      ->excludes(days)
+      ->excludes(season);
 }
 
 void RegisterSimProfile(CLI::App& app, Session& s) {
@@ -59,6 +95,7 @@ void RegisterSimProfile(CLI::App& app, Session& s) {
 }  // namespace
 
 void RegisterSimCommands(CLI::App& app, Session& s) {
+  RegisterPlayGames(app, s);
   RegisterExhibition(app, s);
   RegisterSimProfile(app, s);
 }

@@ -38,6 +38,7 @@ bool RunLine(Session& s, const std::vector<std::string>& words, int& lastRc) {
   RegisterAllCommands(app, s);
   std::vector<std::string> args(words.rbegin(), words.rend());
   s.pending = nullptr;
+  TerminalUi::ClearStop();
   try {
     app.parse(args);
   } catch (const CLI::ParseError& e) {

@@ -12,9 +12,13 @@
 namespace kvl {
 
 namespace {
-// Set by SIGINT; a signal handler can reach nothing else.
+// Set by SIGINT; a signal handler can reach nothing else. A second Ctrl-C
+// ends the program at once, saving nothing: the league's files stay as they were.
 volatile std::sig_atomic_t gStop = 0;
-void OnInterrupt(int) { gStop = 1; }
+void OnInterrupt(int) {
+  if (gStop) ::_exit(130);
+  gStop = 1;
+}
 
 // True when `s` is well-formed UTF-8 (plain ASCII included).
 bool IsUtf8(const std::string& s) {
@@ -43,6 +47,7 @@ TerminalUi::TerminalUi(std::istream& in, std::ostream& out, std::ostream& err)
     : in_(in), out_(out), err_(err), interactive_(::isatty(STDERR_FILENO) != 0) {}
 
 void TerminalUi::InstallStopHandler() { std::signal(SIGINT, OnInterrupt); }
+void TerminalUi::ClearStop() { gStop = 0; }
 
 void TerminalUi::tell(const std::string& text, const std::string& title) {
   progressDone();

@@ -30,6 +30,8 @@ class TerminalUi : public Ui {
 
   // Ctrl-C during a long job asks it to stop between game days.
   static void InstallStopHandler();
+  // Forgets an earlier Ctrl-C, before the shell runs its next command.
+  static void ClearStop();
 
  private:
   std::optional<std::string> readLine(const std::string& shown);
