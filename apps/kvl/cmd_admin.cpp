@@ -114,7 +114,7 @@ void RegisterDemo(CLI::App& app, Session& s) {
   auto a = std::make_shared<DemoArgs>();
   CLI::App* cmd = AddCommand(app, s, "demo",
                              "Make the league Demo in the home folder from the bundled data: aligned, filled, "
-                             "coached, rosters and lines set, saved",
+                             "coached, rosters and lines set, scheduled, its season played and saved",
                              false, [&s, &app, a] {
                                DemoSummary d = RunDemo(s.state, {a->teams, DemoSeed(app, *a)});
                                s.ui.print(DemoSummaryText(s.state, d));

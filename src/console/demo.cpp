@@ -9,6 +9,9 @@
 #include "console/demo_clubs.h"
 #include "league/league_files.h"
 #include "league/ratings.h"
+#include "reports/page_files.h"
+#include "season/schedule_form.h"
+#include "sim/game_day.h"
 #include "team/auto_all.h"
 #include "team/coach_hire.h"
 #include "transactions/roster_fill.h"
@@ -66,6 +69,24 @@ void SaveDemo(LeagueState& s) {
   LoadLg(s, base);
 }
 
+// The suggested schedule; placement can fail on a draw, so a few presses.
+void MakeDemoSchedule(LeagueState& s) {
+  constexpr int kPresses = 10;
+  ScheduleForm form(s);
+  for (int press = 0; press < kPresses; ++press)
+    if (form.cmdNewSchedule() == ScheduleOutcome::Made) return;
+  throw KvlError("the demo league's schedule could not be made");
+}
+
+void PlayDemoSeason(LeagueState& s, DemoSummary& d) {
+  MakeDemoSchedule(s);
+  Games games(s);
+  games.PlayToEnd();
+  d.gamesPlayed = games.gamesPlayed;
+  d.gameDays = games.daysPlayed;
+  SaveLg(s);
+}
+
 DemoSummary Summarize(LeagueState& s) {
   DemoSummary d;
   d.teams = s.numTeams();
@@ -88,9 +109,9 @@ DemoSummary Summarize(LeagueState& s) {
 
 }  // namespace
 
-void AlignTeams(LeagueState& s, const std::vector<std::string>& names) {
+void AlignTeams(LeagueState& s, const std::vector<std::string>& names, int divisions) {
   AlignLeague align(s);
-  int divs = names.size() > 40 ? 3 : 2;
+  int divs = divisions > 0 ? divisions : names.size() > 40 ? 3 : 2;
   for (int c = 0; c < 2; ++c) {
     align.ChangeDivisions(c, divs);
     align.cmdRenameConf(c, std::string(kConferences[static_cast<std::size_t>(c)]));
@@ -103,7 +124,7 @@ void AlignTeams(LeagueState& s, const std::vector<std::string>& names) {
   }
 }
 
-DemoSummary RunDemo(LeagueState& s, const DemoOptions& o) {
+DemoSummary BuildDemo(LeagueState& s, const DemoOptions& o) {
   if (o.teams < kDemoMinTeams || o.teams > kDemoMaxTeams) {
     s.ui.tell(fmt::format("The demo league has {} to {} teams.", kDemoMinTeams, kDemoMaxTeams), "Demo");
     throw Refused("demo size");
@@ -114,7 +135,7 @@ DemoSummary RunDemo(LeagueState& s, const DemoOptions& o) {
   std::vector<const DemoClub*> clubs = ChooseClubs(s.rnd, o.teams);
   std::vector<std::string> names;
   for (const DemoClub* c : clubs) names.emplace_back(c->city);
-  AlignTeams(s, names);
+  AlignTeams(s, names, o.divisions);
   for (int t = 0; t < o.teams; ++t) SetClub(s, t, *clubs[static_cast<std::size_t>(t)]);
   FillRosters(s);
   HireCoaches(s);
@@ -123,13 +144,23 @@ DemoSummary RunDemo(LeagueState& s, const DemoOptions& o) {
   return Summarize(s);
 }
 
+DemoSummary RunDemo(LeagueState& s, const DemoOptions& o) {
+  DemoSummary d = BuildDemo(s, o);
+  PlayDemoSeason(s, d);
+  return d;
+}
+
 std::string DemoSummaryText(const LeagueState& s, const DemoSummary& d) {
   auto line = [&](const char* what, const DemoTeam& t) {
     return fmt::format("{:<12}{} ({}), mean Overall of the dressed players {:.1f}\n", what, s.team(t.team).Name.str(),
                        s.team(t.team).Abbrev.str(), t.dressedMean);
   };
   return fmt::format("Demo league: {} teams, {} players\n", d.teams, d.players) + line("Best team:", d.best) +
-         line("Worst team:", d.worst) + "League:     " + d.path + ".lge\n";
+         line("Worst team:", d.worst) +
+         fmt::format("Season:     {} games played in {} game days\n", d.gamesPlayed, d.gameDays) +
+         "League:     " + d.path + ".lge\n" + "Pages:      " + TransferFile(s, "").parent_path().string() +
+         " (box scores " + TransferFile(s, "1.html").filename().string() + " and on, daily page " +
+         TransferFile(s, "TodayGames.html").filename().string() + ")\n";
 }
 
 }  // namespace kvl

@@ -1,6 +1,6 @@
 #pragma once
 // The demo: a league made from the bundled data in the home folder, aligned,
-// filled, coached and set, saved as HOME/Demo.lge.
+// filled, coached and set, saved as HOME/Demo.lge, and its season played.
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -14,6 +14,7 @@ constexpr int kDemoMinTeams = 8, kDemoMaxTeams = 50;
 struct DemoOptions {
   int teams = 24;
   std::uint64_t seed = 1;
+  int divisions = 0;  // per conference; 0: two, three above 40 teams
 };
 
 struct DemoTeam {
@@ -26,13 +27,16 @@ struct DemoSummary {
   int players = 0;
   DemoTeam best, worst;
   std::string path;  // the league, without extension
+  int gamesPlayed = 0, gameDays = 0;
 };
 
 // Adds the teams in two conferences, two divisions each (three above 40 teams),
 // in turn so that the divisions come out even.
-void AlignTeams(LeagueState& s, const std::vector<std::string>& names);
-// Builds and saves the demo league, then loads it back as a user would. The
-// same options give byte-identical league files.
+void AlignTeams(LeagueState& s, const std::vector<std::string>& names, int divisions = 0);
+// Builds and saves the demo league, then loads it back as a user would.
+DemoSummary BuildDemo(LeagueState& s, const DemoOptions& o);
+// BuildDemo, then the schedule and the season played and saved. The same
+// options give byte-identical league files.
 DemoSummary RunDemo(LeagueState& s, const DemoOptions& o);
 std::string DemoSummaryText(const LeagueState& s, const DemoSummary& d);
 
