@@ -233,8 +233,9 @@ bool SaveLeagueAs(LeagueState& s, const std::string& defaultName, std::optional<
 
 void loadteam(LeagueState& s, int team, int side) {
   RecordFile r(s.swap(swp::Roster), Player::kSize);
+  const Bytes roster = r.getRun(static_cast<std::size_t>(team * kRosterSlots + 1), kRosterSlots);
   for (int slot = 0; slot < kRosterSlots; ++slot) {
-    Player p = r.getRecord<Player>(static_cast<std::size_t>(team * kRosterSlots + slot + 1));
+    Player p = DecodeRecord<Player>(std::span(roster).subspan(static_cast<std::size_t>(slot) * Player::kSize));
     if (p.Name.empty()) p = Player{};
     else if (p.Condition == 0) p.Condition = 100;
     s.player(side, slot) = p;
@@ -245,9 +246,12 @@ void loadteam(LeagueState& s, int team, int side) {
 
 void SaveTeam(LeagueState& s, int team, int side) {
   {
-    RecordFile r(s.swap(swp::Roster), Player::kSize);
-    for (int slot = 0; slot < kRosterSlots; ++slot)
-      r.putRecord(static_cast<std::size_t>(team * kRosterSlots + slot + 1), s.player(side, slot));
+    Bytes roster;
+    for (int slot = 0; slot < kRosterSlots; ++slot) {
+      Bytes rec = EncodeRecord(s.player(side, slot));
+      roster.insert(roster.end(), rec.begin(), rec.end());
+    }
+    RecordFile(s.swap(swp::Roster), Player::kSize).putRun(static_cast<std::size_t>(team * kRosterSlots + 1), roster);
   }
   RecordFile(s.swap(swp::Teams), Team::kSize).putRecord(static_cast<std::size_t>(team) + 1, s.team(team));
   RecordFile(s.swap(swp::Prospects), ProspectList::kSize)

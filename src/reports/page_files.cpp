@@ -3,7 +3,7 @@
 #include <fstream>
 
 #include "util/numbers.h"
-#include "util/record_file.h"
+#include "util/error.h"
 
 namespace kvl {
 
@@ -28,11 +28,15 @@ bool ReadPageLines(const fs::path& path, std::vector<std::string>& out) {
   return true;
 }
 
+// A page is written over in place: it holds nothing of the league that the
+// next publishing would not write again, and a season writes a thousand.
 void WritePage(const fs::path& path, const std::vector<std::string>& lines) {
   std::string page;
   for (const std::string& line : lines) page += line + "\r\n";
   fs::create_directories(path.parent_path());
-  WriteFileAtomic(path, std::span(reinterpret_cast<const std::uint8_t*>(page.data()), page.size()));
+  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+  out << page;
+  if (!out.flush()) throw KvlError("cannot write " + path.string());
 }
 
 }  // namespace kvl

@@ -17,20 +17,26 @@ std::size_t RecordFile::count() {
   return static_cast<std::size_t>(f_.tellg()) / len_;
 }
 
-Bytes RecordFile::get(std::size_t n) {
+Bytes RecordFile::get(std::size_t n) { return getRun(n, 1); }
+
+void RecordFile::put(std::size_t n, std::span<const std::uint8_t> bytes) {
+  Bytes rec(len_, 0);
+  std::copy_n(bytes.begin(), std::min(len_, bytes.size()), rec.begin());
+  putRun(n, rec);
+}
+
+Bytes RecordFile::getRun(std::size_t n, std::size_t count) {
   if (n == 0) throw KvlError(fmt::format("record 0 asked of {}", path_.string()));
-  Bytes out(len_, 0);
+  Bytes out(len_ * count, 0);
   f_.clear();
   f_.seekg(static_cast<std::streamoff>((n - 1) * len_));
-  f_.read(reinterpret_cast<char*>(out.data()), static_cast<std::streamsize>(len_));
+  f_.read(reinterpret_cast<char*>(out.data()), static_cast<std::streamsize>(out.size()));
   f_.clear();
   return out;
 }
 
-void RecordFile::put(std::size_t n, std::span<const std::uint8_t> bytes) {
+void RecordFile::putRun(std::size_t n, std::span<const std::uint8_t> bytes) {
   if (n == 0) throw KvlError(fmt::format("record 0 written to {}", path_.string()));
-  Bytes rec(len_, 0);
-  std::copy_n(bytes.begin(), std::min(len_, bytes.size()), rec.begin());
   f_.clear();
   f_.seekp(0, std::ios::end);
   auto end = static_cast<std::size_t>(f_.tellp());
@@ -40,7 +46,7 @@ void RecordFile::put(std::size_t n, std::span<const std::uint8_t> bytes) {
     f_.write(reinterpret_cast<const char*>(gap.data()), static_cast<std::streamsize>(gap.size()));
   }
   f_.seekp(static_cast<std::streamoff>(at));
-  f_.write(reinterpret_cast<const char*>(rec.data()), static_cast<std::streamsize>(len_));
+  f_.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
   f_.flush();
   if (!f_) throw KvlError(fmt::format("cannot write record {} of {}", n, path_.string()));
 }

@@ -23,6 +23,10 @@ class RecordFile {
   Bytes get(std::size_t n);
   // Writes record n (from 1), extending the file with zeros when needed.
   void put(std::size_t n, std::span<const std::uint8_t> bytes);
+  // The same for `count` records from n on, in one read or write: a team's
+  // roster is one run of records, and a game day moves many of them.
+  Bytes getRun(std::size_t n, std::size_t count);
+  void putRun(std::size_t n, std::span<const std::uint8_t> bytes);
 
   template <class R>
   R getRecord(std::size_t n) { return DecodeRecord<R>(get(n)); }
