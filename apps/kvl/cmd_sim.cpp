@@ -66,6 +66,7 @@ void RegisterPlayGames(CLI::App& app, Session& s) {
 void RegisterSimProfile(CLI::App& app, Session& s) {
   struct Args {
     int games = 1000;
+    int jobs = 1;
     std::vector<std::string> pair;
     std::optional<int> shots, goals, penalties, injuries;
   };
@@ -81,10 +82,13 @@ void RegisterSimProfile(CLI::App& app, Session& s) {
         o.goalsLevel = args->goals;
         o.penaltiesLevel = args->penalties;
         o.injuriesLevel = args->injuries;
+        o.jobs = args->jobs;
         s.ui.print(ProfileText(RunProfile(s.state, o)));
       });
   cmd->add_option("--games", args->games, "how many games (default 1000)")->check(CLI::PositiveNumber);
   cmd->add_option("--pair", args->pair, "play only AWAY at HOME")->expected(2);
+  cmd->add_option("--jobs", args->jobs, "threads to play on; the figures are the same for any number (default 1)")
+      ->check(CLI::Range(1, 64));
   auto level = CLI::Range(1, 9);
   cmd->add_option("--shots-level", args->shots, "ShotsLevel for this run (1-9)")->check(level);
   cmd->add_option("--goals-level", args->goals, "GoalsLevel for this run (1-9)")->check(level);

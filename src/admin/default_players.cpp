@@ -23,13 +23,13 @@ static_assert(304 + 288 + 288 + 512 + 208 == kDefaultPlayers);
 
 // Offsets from the target for Int Spd Str End Dur Dis Ska Pas Pcc Def Sco.
 using Profile = std::array<int, 11>;
-constexpr Profile kCentreProfile{4, 2, -2, 2, 0, 2, 2, 8, 6, -2, 4};
-constexpr Profile kLeftWingProfile{0, 4, 0, 2, 0, 0, 4, 2, 3, -6, 8};
-constexpr Profile kRightWingProfile{0, 4, 1, 2, 0, -1, 3, 2, 2, -6, 8};
-constexpr Profile kStayAtHome{3, -2, 8, 2, 2, 0, 0, -4, -4, 10, -12};
-constexpr Profile kRushingD{0, 4, 0, 2, 0, 0, 4, 6, 4, 2, -2};
+constexpr Profile kCentreProfile{4, 2, -2, 2, 0, 2, 2, 6, 6, -25, 0};
+constexpr Profile kLeftWingProfile{0, 4, 0, 2, 0, 0, 4, 0, 3, -29, 4};
+constexpr Profile kRightWingProfile{0, 4, 1, 2, 0, -1, 3, 0, 2, -29, 4};
+constexpr Profile kStayAtHome{3, -2, 8, 2, 2, 0, 0, -6, -4, -13, -16};
+constexpr Profile kRushingD{0, 4, 0, 2, 0, 0, 4, 4, 4, -21, -6};
 // Goalies are made where their Overall looks: Spd, Pcc, Ska and Int.
-constexpr Profile kGoalieProfile{3, 7, -6, 2, 0, 2, 3, -10, 4, 0, 0};
+constexpr Profile kGoalieProfile{6, 11, -12, 2, 0, 2, 3, -16, 8, 0, 0};
 
 // Weights of the ages 18 to 38.
 constexpr std::array<int, 21> kAgeWeights{2, 4, 6, 7, 8, 8, 8, 8, 8, 7, 7, 6, 6, 5, 4, 3, 3, 2, 1, 1, 1};
@@ -38,6 +38,14 @@ constexpr std::array<int, 15> kGoalieNumbers{1, 29, 30, 31, 32, 33, 34, 35, 37, 
 constexpr std::array<int, 20> kDefenceNumbers{2, 3, 4, 5, 6, 7, 8, 22, 24, 25, 26, 27, 28, 44, 45, 47, 55, 58, 74, 77};
 constexpr std::array<int, 36> kForwardNumbers{9,  10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 23, 26, 36, 38, 42,
                                               43, 46, 48, 49, 51, 53, 57, 61, 63, 67, 71, 73, 81, 86, 88, 91, 92, 93};
+
+struct Range {
+  int lo, hi;
+};
+constexpr Range kDisciplineSkater{80, 99}, kDisciplineFighter{44, 58}, kDisciplineGoalie{70, 95};
+constexpr int kFighterShare = 8;  // percent of skaters
+// A league keeps only goalies who stop nine shots in ten: the pool stands higher.
+constexpr int kGoalieLift = 7, kBestGoalie = 92;
 
 int Clamp(int v, int lo, int hi) { return std::max(lo, std::min(hi, v)); }
 
@@ -58,9 +66,23 @@ int TargetOverall(int age, Draws& d) {
   return std::max(40, t);
 }
 
+// Discipline is a temper, not a skill: it does not follow the Overall. Most
+// players keep their heads; a few skaters are the league's fighters.
+int Discipline(int pos, Draws& d) {
+  if (pos == kGoalie) return d.between(kDisciplineGoalie.lo, kDisciplineGoalie.hi);
+  if (d.chance(kFighterShare)) return d.between(kDisciplineFighter.lo, kDisciplineFighter.hi);
+  return d.between(kDisciplineSkater.lo, kDisciplineSkater.hi);
+}
+
+// Ratings that the shift toward the target Overall leaves alone.
+bool KeptOutOfShift(int pos, int rating) {
+  return rating == kDis || (pos == kGoalie && (rating == kDef || rating == kSco));  // outside a goalie's Overall
+}
+
 void SetRatings(Player& p, int target, int age, Draws& d) {
   const Profile& prof = ProfileFor(p.Pos, d);
   for (int i = 0; i < 11; ++i) p.rating(i) = static_cast<u8>(Clamp(target + prof[static_cast<std::size_t>(i)] + d.between(-6, 6), 25, 99));
+  p.rating(kDis) = static_cast<u8>(Discipline(p.Pos, d));
   if (p.Pos == kGoalie) {
     p.rating(kDef) = static_cast<u8>(d.between(15, 40));
     p.rating(kSco) = static_cast<u8>(d.between(5, 25));
@@ -71,7 +93,7 @@ void SetRatings(Player& p, int target, int age, Draws& d) {
     int gap = target - Overall(p);
     if (gap == 0) break;
     for (int i = 0; i < 11; ++i) {
-      if (p.Pos == kGoalie && (i == kDef || i == kSco)) continue;  // outside a goalie's Overall
+      if (KeptOutOfShift(p.Pos, i)) continue;
       p.rating(i) = static_cast<u8>(Clamp(p.rating(i) + gap, 25, 99));
     }
   }
@@ -113,7 +135,9 @@ class PlayerMaker {
     p.Age = static_cast<u8>(18 + d_.weightedIndex(std::span<const int>(kAgeWeights)));
     p.Rookie = ToBool16(p.Age <= 21);
     p.Condition = 100;
-    SetRatings(p, TargetOverall(p.Age, d_), p.Age, d_);
+    int target = TargetOverall(p.Age, d_);
+    if (pos == kGoalie) target = std::min(target + kGoalieLift, kBestGoalie);
+    SetRatings(p, target, p.Age, d_);
     SetBody(p, d_);
     SetContract(p, d_);
     return p;

@@ -68,6 +68,8 @@ class Game {
   // 1 + Int(Rnd x n): n may be a fraction.
   int Rnd(double n) { return 1 + static_cast<int>(std::floor(s.rnd() * n)); }
   double Rnd() { return s.rnd(); }
+  // Rnd(n) > 1, the same draw without the floor: Int(u x n) is 0 exactly when u x n < 1.
+  bool RndAboveOne(int n) { return s.rnd() * n >= 1.0; }
 
   Player& player(int sd, int slot) { return s.player(sd, slot); }
   float scaled(int sd, int rating, int slot) const {
@@ -84,6 +86,8 @@ class Game {
   void ComputeTerms(int sd, int slot);
   void FloorGoalie(int sd, int slot);
   void SetLine(int sd, int line);
+  // Rebuilds the seats' terms of the team sums after a change of seats.
+  void RefreshSeatTerms(int sd);
   u8 ChooseSubstitute(int sd, int slot, int seat);
   void NextLine(int sd, int opponent);
   // Positive when a is short.
@@ -163,6 +167,8 @@ class Game {
   void BookPenalty(int sd, PenaltyCall& c, const std::array<PenaltyCall, 2>& calls, bool fight);
 
  private:
+  template <TeamSum kSum>
+  double SeatSum(int sd);
   void Fight(std::array<PenaltyCall, 2>& calls);
   void OffencePass(int sd, std::array<PenaltyCall, 2>& calls, int& count, bool& hardPlay);
   void TickSide(int sd);

@@ -120,13 +120,14 @@ void Game::PrepareSide(int sd) {
     }
     g.Checking[slot] = c;
   }
-  // Only dressed players ever take a seat.
+  // Only dressed players ever take a seat; the starter is in goal whatever his mark.
   for (int i = 0; i < g.dressedCount; ++i) {
     u8 slot = g.dressed[i];
     g.offenseRating[slot] = OffenseRating(player(sd, slot));
     g.defenseRating[slot] = DefenseRating(player(sd, slot));
     ComputeTerms(sd, slot);
   }
+  if (g.Status[g.Goalie] == kNotDressed) ComputeTerms(sd, g.Goalie);
   for (int seat = 0; seat < kSeats; ++seat)
     for (int line = 0; line < kLineRows; ++line) g.Lines[seat][line] = t.Lines.at(line, seat);
   SetLine(sd, 0);
@@ -161,6 +162,15 @@ void Game::ComputeTerms(int sd, int slot) {
   t.scrambleMain = 3.0 * in + 2.0 * str + 4.0 * ska + 4.0 * def;
   t.faceoff = Pow(in, 1.7) + Pow(spd, 1.4) + Pow(pcc, 1.9) + Pow(def, 1.9);
   t.cover = 35 + Pow(in, 1.7) + Pow(str, 1.5) + Pow(def, 1.7);
+  float sco = r(kSco), dis = r(kDis);
+  t.passer = std::floor(Pow(pas, 3.9) + Pow(pcc, 2.1));
+  t.secondAssist = std::pow(static_cast<double>(pcc), 2) + std::pow(static_cast<double>(pas), 3);
+  t.passBonus = Pow(pas, 1.9);
+  t.shot = Pow(sco, 2.4);
+  t.offender = std::floor(std::pow(12.5 - dis, 3) + in);
+  t.goalie = Pow(in, 2.44) + 700 + Pow(spd, 2.92) + Pow(str, 2.19) + 2.56 * ska + Pow(pcc, 2.66);
+  t.holdsGround = Pow(in, 1.77);
+  t.rebound = Pow(pcc, 2.05);
   g.endurance[slot] = r(kEnd);
   g.recovery[slot] = g.endurance[slot] / 8;
   g.energyCap[slot] = player(sd, slot).Condition;
@@ -206,6 +216,7 @@ void Game::SetLine(int sd, int line) {
     }
     if (line == 2) g.Defensive[p] = -1;  // the third line is the checking line
   }
+  RefreshSeatTerms(sd);
   if (count == 0) return;
   g.LineToughness = CByte(g.LineToughness / static_cast<double>(count));
   g.LineDiscipline = CByte(g.LineDiscipline / static_cast<double>(count));

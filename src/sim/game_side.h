@@ -36,6 +36,27 @@ struct SlotTerms {
   double scrambleMain = 0;
   double faceoff = 0;
   double cover = 0;      // a defenceman's part of the cover in front of his goalie
+  // The powers of the shot and the penalty draws.
+  double passer = 0;        // weight as the passer of a shot
+  double secondAssist = 0;  // weight for the second assist
+  double passBonus = 0;     // what his pass adds to the shot
+  double shot = 0;          // the power of his shot
+  double offender = 0;      // weight as the offender of a penalty
+  double goalie = 0;        // in goal: his value before the cover and his condition
+  double holdsGround = 0;   // in goal: his odds of holding on a breakaway
+  double rebound = 0;       // in goal: his odds of smothering a shot
+};
+
+// The team sums, in the order of a seat's terms.
+enum TeamSum : int { kDefenceSum, kAttackSum, kMoveSum, kStopSum, kKeepSum, kScrambleSum, kTeamSums };
+
+// What the player in a seat brings to each team sum: the main term, weighed by
+// energy and lost to a lapse, and the rest, which depends on his position and
+// shift role. Neither changes while he sits, so it is built when he sits down.
+struct SeatTerms {
+  std::array<double, kTeamSums> main{}, rest{};
+  bool outOfPosition = false;
+  bool defence = false;
 };
 
 struct GameSide {
@@ -81,6 +102,8 @@ struct GameSide {
   // Working values of this program beyond the side record.
   int team = 0;
   std::array<SlotTerms, kGameSlots> terms{};
+  // By seat, for the players in OnIce; rebuilt whenever a seat changes.
+  std::array<SeatTerms, kSeats> seatTerms{};
   // What a tick does to energy: Scaled End, the gain per tick on the bench,
   // and the most he gets back there (his Condition).
   std::array<double, kGameSlots> endurance{}, recovery{}, energyCap{};
@@ -90,9 +113,9 @@ struct GameSide {
   bool goalieHurt = false;  // an injury replaced the goalie
   int goalieHurtScore = 0;  // this side's goals when that happened
   u8 lastHurt = kNoPlayer;
-  // Somebody may have box time left: set with BoxTicks or ServeTicks, cleared
-  // by the tick that finds none, so most ticks skip the box.
-  bool boxWatch = false;
+  // Slots that may have box or serving time left, by bit: set with BoxTicks or
+  // ServeTicks, cleared by the tick that ends both, so a tick visits the box only.
+  std::uint64_t boxed = 0;
   // Slots that may be on the bench below their condition, by bit; a tick
   // gives energy back to these only.
   std::uint64_t recovering = 0;
@@ -102,6 +125,7 @@ struct GameSide {
     Status[static_cast<std::size_t>(slot)] = kOnBench;
     recovering |= std::uint64_t{1} << slot;
   }
+  void Box(int slot) { boxed |= std::uint64_t{1} << slot; }
   u8 ChainCount = 0;
   int injuries = 0;
 };

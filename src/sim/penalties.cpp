@@ -146,11 +146,12 @@ void Game::BookPenalty(int sd, PenaltyCall& c, const std::array<PenaltyCall, 2>&
     g.PenaltyKind[server] = static_cast<u8>(c.kind);
     text += " (Served by " + ShortPlayerName(sd, server) + ")";
     g.Status[server] = kInBox;
+    g.Box(server);
   } else {
     g.BoxTicks[o] = g.ServeTicks[o] = c.minutes * kTicksPerMinute;
     g.PenaltyKind[o] = static_cast<u8>(c.kind);
+    g.Box(o);
   }
-  g.boxWatch = true;
   if (!PeriodPenalties.empty()) PeriodPenalties += ", ";
   PeriodPenalties += text;
   ++g.MenInBox;
@@ -169,7 +170,7 @@ u8 Game::PickOffender(int sd) {
   for (int seat = 0; seat < kSeats; ++seat) {
     u8 p = g.OnIce[seat];
     if (p == kNoPlayer) continue;
-    w[seat] = std::floor(std::pow(12.5 - g.Scaled[kDis][p], 3) + g.Scaled[kInt][p]);
+    w[seat] = g.terms[p].offender;
     total += w[seat];
   }
   return WalkSeats(sd, w, total);
@@ -233,6 +234,7 @@ void Game::PenaltyOver(int sd, u8 slot) {
     } else {
       g.Bench(slot);
     }
+    RefreshSeatTerms(sd);
   }
   g.PenaltyKind[slot] = kNoPenalty;
 }
@@ -268,6 +270,7 @@ void Game::ChangeGoalie(int sd) {
     AddNote(PlayerName(sd, next) + " enters game at " + ClockText(Clock) + " of " + Ordinal(Period) + " period<BR>");
   FloorGoalie(sd, next);
   ComputeTerms(sd, next);
+  RefreshSeatTerms(sd);
 }
 
 // The first two fights of a game always happen; each later one is less likely.

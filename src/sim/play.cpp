@@ -176,13 +176,10 @@ void Game::TickSide(int sd) {
   GameSide& g = sideOf(sd);
   const double wear = sideOf(other(sd)).LineToughness / 4.0 + 13;
   g.IceTime[g.Goalie] = static_cast<i16>(g.IceTime[g.Goalie] + 5);
-  // Box time first: it changes no one's energy but his own status. Only
-  // dressed players can be in the box or on the ice.
-  const int dressed = g.dressedCount;
+  // Box time first: it changes no one's energy but his own status.
   int inBox = 0;
-  bool watch = false;
-  for (int i = 0; i < (g.boxWatch ? dressed : 0); ++i) {
-    const int slot = g.dressed[static_cast<std::size_t>(i)];
+  for (std::uint64_t bits = g.boxed; bits != 0; bits &= bits - 1) {
+    const int slot = std::countr_zero(bits);
     int& box = g.BoxTicks[static_cast<std::size_t>(slot)];
     if (box > 0) {
       if (--box > 0) ++inBox;
@@ -190,9 +187,8 @@ void Game::TickSide(int sd) {
     }
     int& serve = g.ServeTicks[static_cast<std::size_t>(slot)];
     if (serve > 0 && --serve == 0 && g.Status[static_cast<std::size_t>(slot)] < kInjured) g.Bench(slot);
-    watch = watch || box > 0 || serve > 0;
+    if (box <= 0 && serve <= 0) g.boxed &= ~(std::uint64_t{1} << slot);
   }
-  g.boxWatch = watch;
   g.MenInBox = static_cast<u8>(inBox);
   // Whoever is on the ice sits in a seat.
   for (u8 slot : g.OnIce) {

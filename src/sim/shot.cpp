@@ -21,6 +21,7 @@ std::string Upper(std::string text) {
 
 void Game::TakeShot() {
   notedClock = Clock;
+  const GameSide& att = sideOf(Attacker);
   GameSide& def = sideOf(Defender);
   u8 shooter = PickShooter(Attacker);
   int shot = CInt(ShotValue(Attacker, shooter));
@@ -32,17 +33,17 @@ void Game::TakeShot() {
   int bonus = 0;
   if (passDraw < 95) {
     passer = PickPasser(Attacker, shooter);
-    bonus = CByte(std::pow(static_cast<double>(scaled(Attacker, kPas, passer)), 1.9));
+    bonus = CByte(att.terms[passer].passBonus);
   }
   bool savedHard = false;
-  if (IsBreakaway && Rnd(100) < std::pow(static_cast<double>(scaled(Defender, kInt, g)), 1.77) + 40) {
+  if (IsBreakaway && Rnd(100) < def.terms[g].holdsGround + 40) {
     savedHard = true;
     save = CInt(1.5 * save);
   }
   int q = shot + bonus;
   bool goal = Rnd(static_cast<double>(save) + q) < q;
   bool loose = false;
-  if (!goal && Rnd(175) > std::pow(static_cast<double>(scaled(Defender, kPcc, g)), 2.05) + 20) {
+  if (!goal && Rnd(175) > def.terms[g].rebound + 20) {
     loose = true;
     if (Rnd(400) > 200 + CoverSum(Defender)) {
       u8 second = PickShooter(Attacker);
@@ -181,8 +182,7 @@ u8 Game::PickPasser(int sd, u8 shooter) {
   for (int seat = 0; seat < kSeats; ++seat) {
     u8 p = g.OnIce[seat];
     if (p == kNoPlayer) continue;
-    double x = std::floor(std::pow(static_cast<double>(g.Scaled[kPas][p]), 3.9) +
-                          std::pow(static_cast<double>(g.Scaled[kPcc][p]), 2.1));
+    double x = g.terms[p].passer;
     if (player(sd, p).Pos == kDefence) x = std::floor(x / 2);
     w[seat] = x;
     total += x;
@@ -202,7 +202,7 @@ u8 Game::PickSecondAssist(int sd, u8 scorer, u8 first) {
   for (int seat = 0; seat < kSeats; ++seat) {
     u8 p = g.OnIce[seat];
     if (p == kNoPlayer) continue;
-    double x = std::pow(static_cast<double>(g.Scaled[kPcc][p]), 2) + std::pow(static_cast<double>(g.Scaled[kPas][p]), 3);
+    double x = g.terms[p].secondAssist;
     if (player(sd, p).Pos == kDefence) x = std::floor(x / 1.5);
     w[seat] = x;
     total += x;
@@ -217,7 +217,7 @@ u8 Game::PickSecondAssist(int sd, u8 scorer, u8 first) {
 double Game::ShotValue(int sd, u8 shooter) {
   const GameSide& g = sideOf(sd);
   auto r = [&](int rating) { return static_cast<double>(g.Scaled[rating][shooter]); };
-  double v = 90 + 35 * ManDifference(Defender, sd) + std::pow(r(kSco), 2.4);
+  double v = 90 + 35 * ManDifference(Defender, sd) + g.terms[shooter].shot;
   if (player(sd, shooter).Pos != kDefence) v = v + r(kSco) + r(kSpd);
   else v = v / 2.4;
   if (g.Goals >= 6) v = v - (g.Goals - 5) * 10;
@@ -231,8 +231,7 @@ double Game::ShotValue(int sd, u8 shooter) {
 double Game::GoalieValue(int sd, u8 goalie) {
   const GameSide& g = sideOf(sd);
   auto r = [&](int rating) { return static_cast<double>(g.Scaled[rating][goalie]); };
-  double v = std::pow(r(kInt), 2.44) + 700 + std::pow(r(kSpd), 2.92) + std::pow(r(kStr), 2.19) + 2.56 * r(kSka) +
-             std::pow(r(kPcc), 2.66);
+  double v = g.terms[goalie].goalie;
   v = v - 70 * ManDifference(sd, other(sd)) + CoverSum(sd);
   v = v * (player(sd, goalie).Condition / 100.0);
   if (!Lapse(sd)) v = 0.8 * v + std::floor(0.2 * v * r(kExp) / 10);

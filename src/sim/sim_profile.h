@@ -13,6 +13,9 @@ struct ProfileOptions {
   int games = 1000;
   std::optional<std::pair<int, int>> pair;  // away, home; else every pairing in turn
   std::optional<int> shotsLevel, goalsLevel, penaltiesLevel, injuriesLevel;
+  // Threads to play on. Game i has its own seed, drawn from the run's, so the
+  // figures do not depend on how many threads play them.
+  int jobs = 1;
 };
 
 struct ProfileTotals {
@@ -24,9 +27,10 @@ struct ProfileTotals {
 };
 
 // Plays the games; the league's sliders are set for the run only and nothing
-// of the league changes.
+// of the league changes. Each thread plays on its own copy of the league.
 ProfileTotals RunProfile(LeagueState& s, const ProfileOptions& options);
-// The report: the sliders, then each mean per team and game.
+// The report: the sliders, then each mean per team and game; with every
+// slider at its default, beside the range a professional league plays to.
 std::string ProfileText(const ProfileTotals& totals);
 
 }  // namespace kvl

@@ -6,102 +6,88 @@
 
 namespace kvl {
 
+// 20 halved to the nearest whole, ties to even, once for each condition that
+// holds: 20, 10, 5, 2 (5 halves to 2), 1.
 int Game::LapseOdds(int sd) const {
+  static constexpr std::array<int, 5> kOdds{20, 10, 5, 2, 1};
   const GameSide& own = sideOf(sd);
   const GameSide& opp = sideOf(other(sd));
-  int n = 20;
-  auto halve = [&n] {  // to the nearest whole, ties to even: 5 halves to 2
-    int q = n / 2;
-    n = n % 2 != 0 && q % 2 != 0 ? q + 1 : q;
-  };
-  if (ManDifference(sd, other(sd)) != 0) halve();
-  if (InOvertime) halve();
-  if (opp.Goals == 0 && Period == 3) halve();
-  if (own.Shots > 2 * opp.Shots) halve();
-  return n;
+  int halvings = (ManDifference(sd, other(sd)) != 0) + InOvertime + (opp.Goals == 0 && Period == 3) +
+                 (own.Shots > 2 * opp.Shots);
+  return kOdds[static_cast<std::size_t>(halvings)];
 }
 
-bool Game::Lapse(int sd) { return Rnd(LapseOdds(sd)) != 1; }
+bool Game::Lapse(int sd) { return RndAboveOne(LapseOdds(sd)); }
 
-namespace {
-
-// acc starts at the manpower term; after each seat an out-of-position player
-// takes 5% off everything summed so far, not only his own part.
-template <class Main, class Extra>
-double Accumulate(Game& game, int sd, Main main, Extra extra) {
-  const GameSide& g = game.sideOf(sd);
-  double acc = 0 - game.ManDifference(sd, Game::other(sd)) * game.Intensity / 5.0;
-  const int odds = game.LapseOdds(sd);
-  for (u8 p : g.OnIce) {
+void Game::RefreshSeatTerms(int sd) {
+  GameSide& g = sideOf(sd);
+  for (int seat = 0; seat < kSeats; ++seat) {
+    u8 p = g.OnIce[seat];
     if (p == kNoPlayer) continue;
     const SlotTerms& t = g.terms[p];
-    double e = g.Energy[p] / 100.0;
-    if (game.Rnd(odds) != 1) acc += main(t) * e;
-    acc += extra(p, t, e);
-    if (g.OutOfPosition[p]) acc *= 0.95;
+    const bool defensive = g.Defensive[p] != 0, defence = player(sd, p).Pos == kDefence;
+    SeatTerms& st = g.seatTerms[seat];
+    st.main = {t.defenceMain, t.attackMain, t.moveMain, t.stopMain, t.keepMain, t.scrambleMain};
+    auto sum = [](bool first, double a, bool second, double b) {
+      double x = 0;
+      if (first) x += a;
+      if (second) x += b;
+      return x;
+    };
+    st.rest = {sum(defensive, t.defenceDefensive, defence, t.defenceD),
+               sum(!defensive, t.attackFree, false, 0),  // weighed by energy
+               sum(!defence, t.moveForward, false, 0),
+               sum(defensive, t.stopDefensive, defence, t.stopD),
+               0,
+               0};
+    st.outOfPosition = g.OutOfPosition[p] != 0;
+    st.defence = defence;
   }
-  return acc;
 }
+
+namespace {
 
 int Floor(double x) { return static_cast<int>(std::floor(x)); }
 
 }  // namespace
 
-int Game::DefenceSum(int sd) {
+// acc starts at the manpower term; after each seat an out-of-position player
+// takes 5% off everything summed so far, not only his own part.
+template <TeamSum kSum>
+double Game::SeatSum(int sd) {
   const GameSide& g = sideOf(sd);
-  return Floor(Accumulate(
-      *this, sd, [](const SlotTerms& t) { return t.defenceMain; },
-      [&](u8 p, const SlotTerms& t, double) {
-        double x = 0;
-        if (g.Defensive[p]) x += t.defenceDefensive;
-        if (player(sd, p).Pos == kDefence) x += t.defenceD;
-        return x;
-      }));
+  double acc = 0 - ManDifference(sd, other(sd)) * Intensity / 5.0;
+  const int odds = LapseOdds(sd);
+  for (int seat = 0; seat < kSeats; ++seat) {
+    u8 p = g.OnIce[seat];
+    if (p == kNoPlayer) continue;
+    const SeatTerms& t = g.seatTerms[seat];
+    double e = g.Energy[p] / 100.0;
+    if (RndAboveOne(odds)) acc += t.main[kSum] * e;
+    acc += kSum == kAttackSum ? t.rest[kSum] * e : t.rest[kSum];
+    if (t.outOfPosition) acc *= 0.95;
+  }
+  return acc;
 }
 
-int Game::AttackSum(int sd) {
-  const GameSide& g = sideOf(sd);
-  return Floor(Accumulate(
-      *this, sd, [](const SlotTerms& t) { return t.attackMain; },
-      [&](u8 p, const SlotTerms& t, double e) { return g.Defensive[p] ? 0.0 : t.attackFree * e; }));
-}
+int Game::DefenceSum(int sd) { return Floor(SeatSum<kDefenceSum>(sd)); }
 
-int Game::MoveSum(int sd) {
-  double acc = Accumulate(
-      *this, sd, [](const SlotTerms& t) { return t.moveMain; },
-      [&](u8 p, const SlotTerms& t, double) { return player(sd, p).Pos == kDefence ? 0.0 : t.moveForward; });
-  return Floor(acc) - 10 * sideOf(other(sd)).LineChecking;
-}
+int Game::AttackSum(int sd) { return Floor(SeatSum<kAttackSum>(sd)); }
 
-int Game::StopSum(int sd) {
-  const GameSide& g = sideOf(sd);
-  double acc = Accumulate(
-      *this, sd, [](const SlotTerms& t) { return t.stopMain; },
-      [&](u8 p, const SlotTerms& t, double) {
-        double x = 0;
-        if (g.Defensive[p]) x += t.stopDefensive;
-        if (player(sd, p).Pos == kDefence) x += t.stopD;
-        return x;
-      });
-  return Floor(acc) - 10 * sideOf(other(sd)).LineChecking;
-}
+int Game::MoveSum(int sd) { return Floor(SeatSum<kMoveSum>(sd)) - 10 * sideOf(other(sd)).LineChecking; }
 
-double Game::KeepSum(int sd) {
-  return Accumulate(
-      *this, sd, [](const SlotTerms& t) { return t.keepMain; }, [](u8, const SlotTerms&, double) { return 0.0; });
-}
+int Game::StopSum(int sd) { return Floor(SeatSum<kStopSum>(sd)) - 10 * sideOf(other(sd)).LineChecking; }
 
-int Game::ScrambleSum(int sd) {
-  double acc = Accumulate(
-      *this, sd, [](const SlotTerms& t) { return t.scrambleMain; }, [](u8, const SlotTerms&, double) { return 0.0; });
-  return Floor(acc) - 10 * sideOf(other(sd)).LineChecking;
-}
+double Game::KeepSum(int sd) { return SeatSum<kKeepSum>(sd); }
+
+int Game::ScrambleSum(int sd) { return Floor(SeatSum<kScrambleSum>(sd)) - 10 * sideOf(other(sd)).LineChecking; }
 
 int Game::CoverSum(int sd) const {
   const GameSide& g = sideOf(sd);
   double sum = 0;
-  for (u8 p : g.OnIce) {
-    if (p != kNoPlayer && s.player(sd, p).Pos == kDefence) sum += g.terms[p].cover;
+  for (int seat = 0; seat < kSeats; ++seat) {
+    u8 p = g.OnIce[seat];
+    if (p != kNoPlayer && g.seatTerms[seat].defence) sum += g.terms[p].cover;
   }
   return Floor(sum / 2);
 }

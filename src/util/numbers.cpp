@@ -126,6 +126,8 @@ std::optional<double> WholeIn(std::string_view text, double low, double high) {
 
 std::string NumText(double x) {
   if (x == 0.0) return "0";
+  // A whole number prints as its digits, and most are whole: skip the printf.
+  if (std::fabs(x) < 1e15 && x == std::trunc(x)) return std::to_string(static_cast<long long>(x));
   char buf[40];
   std::snprintf(buf, sizeof buf, "%.15G", x);
   std::string s = buf;

@@ -11,24 +11,11 @@ std::uint64_t SplitMix(std::uint64_t& x) {
   z = (z ^ (z >> 27)) * 0x94d049bb133111ebULL;
   return z ^ (z >> 31);
 }
-std::uint64_t Rotl(std::uint64_t x, int k) { return (x << k) | (x >> (64 - k)); }
 }  // namespace
 
 void Rnd::seed_state(std::uint64_t seed) {
   for (auto& s : s_) s = SplitMix(seed);
-}
-
-// xoshiro256**: fast, and good enough for a game's draws.
-std::uint64_t Rnd::next() {
-  std::uint64_t result = Rotl(s_[1] * 5, 7) * 9;
-  std::uint64_t t = s_[1] << 17;
-  s_[2] ^= s_[0];
-  s_[3] ^= s_[1];
-  s_[1] ^= s_[2];
-  s_[0] ^= s_[3];
-  s_[2] ^= t;
-  s_[3] = Rotl(s_[3], 45);
-  return result;
+  ahead_ = kBatch;
 }
 
 void Rnd::setMasterSeed(std::optional<std::uint64_t> seed) {

@@ -17,7 +17,7 @@ TEST_F(PenaltyTest, SelfServedMinorReturnsToTheBenchWhenItEnds) {
   s.Status[5] = kInBox;
   s.BoxTicks[5] = s.ServeTicks[5] = 24;
   s.PenaltyKind[5] = kMinor;
-  s.boxWatch = true;
+  s.Box(5);
   for (int i = 0; i < 23; ++i) g.Tick();
   EXPECT_EQ(s.MenInBox, 1);
   EXPECT_EQ(s.Status[5], kInBox);
@@ -30,7 +30,7 @@ TEST_F(PenaltyTest, SelfServedMinorReturnsToTheBenchWhenItEnds) {
 TEST_F(PenaltyTest, BoxTimeRunsOnlyWhileTheClockDoes) {
   GameSide& s = f.side(0);
   s.BoxTicks[5] = 10;
-  s.boxWatch = true;
+  s.Box(5);
   g.Clock = 1196;
   g.Tick();  // to 1201: the rest of the tick is skipped
   EXPECT_EQ(s.BoxTicks[5], 10);

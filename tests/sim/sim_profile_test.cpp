@@ -30,6 +30,25 @@ TEST(SimProfile, SlidersMoveShotsAndGoalsAndAreRestored) {
   EXPECT_FALSE(s.Dirty);
 }
 
+TEST(SimProfile, FiguresAreTheSameOnAnyNumberOfThreads) {
+  auto run = [](int jobs) {
+    GameFixture f(SimLeague(6), false);
+    f.h.state.rnd.setMasterSeed(5);
+    ProfileOptions o;
+    o.games = 60;
+    o.jobs = jobs;
+    return RunProfile(f.h.state, o);
+  };
+  auto figures = [](const ProfileTotals& t) {
+    return std::vector<double>{double(t.games), double(t.overtimeGames), t.goals, t.shots, t.powerPlays, t.ppGoals,
+                               t.pim, t.fights, t.injuries, t.hits, t.saves};
+  };
+  ProfileTotals one = run(1);
+  EXPECT_EQ(figures(one), figures(run(2)));
+  EXPECT_EQ(figures(one), figures(run(1)));
+  EXPECT_EQ(one.games, 60);
+}
+
 TEST(SimProfile, RefusesATeamAgainstItselfAndBadLevels) {
   GameFixture f(SimLeague(4), false);
   ProfileOptions o;
@@ -56,6 +75,10 @@ TEST(SimProfile, TextShowsMeansPerTeamAndGame) {
   EXPECT_NE(text.find("  Goals                 3.00\n"), std::string::npos);
   EXPECT_NE(text.find("  Save percentage      0.897\n"), std::string::npos);
   EXPECT_NE(text.find("  Overtime games       50.0%\n"), std::string::npos);
+  t.sliders = {5, 5, 5, 5, 5};  // at the defaults, the target ranges stand beside the figures
+  text = ProfileText(t);
+  EXPECT_NE(text.find("  Shots                29.00   29.00-31.00\n"), std::string::npos);
+  EXPECT_NE(text.find("  Save percentage      0.897   .900-.910\n"), std::string::npos);
 }
 
 }  // namespace

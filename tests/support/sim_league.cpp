@@ -57,6 +57,7 @@ void GameFixture::Seat(int sd, std::initializer_list<int> slots) {
     g.OnIce[static_cast<std::size_t>(seat++)] = static_cast<u8>(p);
     if (p != kNoPlayer) g.Status[static_cast<std::size_t>(p)] = kOnIce;
   }
+  game.RefreshSeatTerms(sd);
 }
 
 }  // namespace kvl::test
