@@ -28,8 +28,12 @@ void Rnd::Randomize() {
     *master_ = SplitMix(*master_);
     seed_state(*master_);
   } else {
+    // The generator's own address tells apart two leagues that reseed in the
+    // same clock tick.
+    std::uint64_t self = reinterpret_cast<std::uintptr_t>(this);
     seed_state(static_cast<std::uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count()) ^
-               static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()));
+               static_cast<std::uint64_t>(std::chrono::system_clock::now().time_since_epoch().count()) ^
+               SplitMix(self));
   }
 }
 
