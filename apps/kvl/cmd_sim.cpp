@@ -33,10 +33,12 @@ void RegisterExhibition(CLI::App& app, Session& s) {
 struct PlayArgs {
   std::optional<int> days;
   bool season = false, restDay = false;
+  std::string saveAs;
 };
 
 void PlayGames(Session& s, const PlayArgs& a) {
   Games games(s.state);
+  if (!a.saveAs.empty()) games.playoffEnd.saveAs = fs::path(a.saveAs);
   if (a.restDay) return games.cmdHelp();
   bool ran = a.season ? games.Command5() : a.days ? games.BulkGameButton(*a.days) : games.MultipleGames();
   if (!ran) throw Refused("no games");
@@ -44,7 +46,8 @@ void PlayGames(Session& s, const PlayArgs& a) {
   std::string text = fmt::format("Played {} games in {} game days; {} of {} games of the schedule are played.\n",
                                  games.gamesPlayed, games.daysPlayed, l.GamesPlayed, l.LeagueGames);
   if (games.StopRequested) text += "Stopped by the interrupt between game days.\n";
-  if (games.IsSeasonOver) text += "The season is over.\n";
+  if (games.champion >= 0) text += s.state.team(games.champion).Name.str() + " win the playoffs.\n";
+  else if (games.IsSeasonOver) text += "The season is over.\n";
   text += fmt::format("Box scores and the daily page: {}\n", TransferFile(s.state, "TodayGames.html").string());
   s.ui.print(text);
 }
@@ -52,8 +55,8 @@ void PlayGames(Session& s, const PlayArgs& a) {
 void RegisterPlayGames(CLI::App& app, Session& s) {
   auto args = std::make_shared<PlayArgs>();
   CLI::App* cmd = AddCommand(app, s, "play-games",
-                             "Play the next game day of the schedule (or N days, or the rest of the season); box "
-                             "scores and the daily page go to Transfer/",
+                             "Play the next game day of the schedule (or N days, or the rest of the season or "
+                             "the playoffs); box scores and the daily page go to Transfer/",
                              true, [&s, args] { PlayGames(s, *args); });
   auto* days = cmd->add_option("--days", args->days, "play N game days (a positive whole number)")
                    ->check(CLI::PositiveNumber);
@@ -61,6 +64,8 @@ void RegisterPlayGames(CLI::App& app, Session& s) {
   cmd->add_flag("--rest-day", args->restDay, "rest every team one day instead of playing")
       ->excludes(days)
       ->excludes(season);
+  cmd->add_option("--save-as", args->saveAs,
+                  "where the league is saved after the re-rate that follows the playoffs' final (else asked)");
 }
 
 void RegisterSimProfile(CLI::App& app, Session& s) {

@@ -1,6 +1,6 @@
 #pragma once
 // The series of the playoff round being played: a game's result moves its
-// series on; four wins end it.
+// series on; four wins end it; a finished round makes the next one.
 #include "league/league_state.h"
 
 namespace kvl {
@@ -14,5 +14,13 @@ int SeriesInStage(int stage);
 // One more win for `winner` in its series with `loser`; at four wins the
 // loser is out and the series done. A pair with no open series is left alone.
 void SeriesWin(LeagueState& s, int winner, int loser);
+
+enum class PlayoffProgress { RoundGoesOn, NewRound, FinalDecided };
+// After a playoff game day: the games left of decided series are marked as
+// never played (both scores 0), and a finished round turns to the next one
+// with its schedule.
+PlayoffProgress EndPlayoffDay(LeagueState& s);
+// The winner of the final.
+int PlayoffChampion(const LeagueState& s);
 
 }  // namespace kvl

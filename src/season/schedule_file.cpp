@@ -22,6 +22,12 @@ std::vector<ScheduleRecord> ReadSchedule(const fs::path& file) {
   return games;
 }
 
+std::size_t FirstUnplayed(const std::vector<ScheduleRecord>& games) {
+  std::size_t i = 0;
+  while (i < games.size() && games[i].Played != 0) ++i;
+  return i;
+}
+
 bool EndsPass(const ScheduleRecord& r, int numTeams) {
   const int limit = std::max(kDriverTeamLimit, numTeams);
   return r.HomeTeam >= limit || r.AwayTeam >= limit;

@@ -15,6 +15,9 @@ std::vector<ScheduleRecord> ReadSchedule(const fs::path& file);
 // plays like any other).
 bool EndsPass(const ScheduleRecord& r, int numTeams);
 
+// The index (from 0) of the first unplayed record; the size when all are played.
+std::size_t FirstUnplayed(const std::vector<ScheduleRecord>& games);
+
 // Record indexes (from 0) grouped into game days as the game driver reads them,
 // up to the record that ends its pass.
 std::vector<std::vector<std::size_t>> GameDays(const std::vector<ScheduleRecord>& games, int numTeams);

@@ -4,6 +4,7 @@
 
 #include "league/league_files.h"
 #include "reports/auto_output.h"
+#include "season/playoff_series.h"
 #include "season/schedule_file.h"
 #include "sim/condition.h"
 #include "sim/finish_game.h"
@@ -20,12 +21,6 @@ namespace kvl {
 namespace {
 
 constexpr std::size_t kGameListLines = 20;
-
-std::size_t FirstUnplayed(const std::vector<ScheduleRecord>& games) {
-  std::size_t i = 0;
-  while (i < games.size() && games[i].Played != 0) ++i;
-  return i;
-}
 
 std::string GameText(const LeagueState& s, std::size_t index, const ScheduleRecord& r) {
   return fmt::format("game {} ({} at {})", index + 1, s.team(r.AwayTeam).Name.str(), s.team(r.HomeTeam).Name.str());
@@ -128,13 +123,36 @@ bool Games::PlayGameDay() {
     IsSeasonOver = true;
     if (!l.Exhibition) l.SeasonOver = kTrue;
   }
-  if (!IsSeasonOver) page.AddNextGames(games, i);
+  const bool finalDecided = l.InPlayoffs && EndPlayoffRound();
+  // Read again: the playoffs may have struck games or begun a round.
+  if (!IsSeasonOver) page.AddNextGames(ReadSchedule(s_.swap(swp::Schedule)));
   page.Close();
   RestTeams(played);
   WaiversDay(s_);
   if (l.OptAutoOutput) AutoHTMLOutput(s_);
   ++daysPlayed;
+  // The champion is told, and the re-rate and its save run, once the day is whole.
+  if (finalDecided) {
+    champion = PlayoffChampion(s_);
+    FinishPlayoffs(s_, playoffEnd);
+  }
   return true;
+}
+
+// A finished round writes the next one's schedule, and play goes on; true
+// when the final is decided.
+bool Games::EndPlayoffRound() {
+  switch (EndPlayoffDay(s_)) {
+    case PlayoffProgress::NewRound:
+      IsSeasonOver = false;
+      return false;
+    case PlayoffProgress::FinalDecided:
+      IsSeasonOver = true;
+      return true;
+    case PlayoffProgress::RoundGoesOn:
+      break;
+  }
+  return false;
 }
 
 void Games::RestTeams(const std::array<bool, kMaxTeams>& played) {

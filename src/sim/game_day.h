@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "league/league_state.h"
+#include "season/playoffs.h"
 
 namespace kvl {
 
@@ -42,13 +43,17 @@ class Games {
   i16 GameNumber = 0;
   std::vector<std::string> GameList;
 
+  // What follows the final: the re-rate and the save under a new name.
+  PlayoffEnd playoffEnd;
   // What this console has played, for the front ends' summaries.
   int gamesPlayed = 0, daysPlayed = 0;
+  int champion = -1;  // once the final is decided
 
  private:
   bool RefuseWithoutSchedule();
   void PlayRecord(std::vector<ScheduleRecord>& games, std::size_t index);
   void RestTeams(const std::array<bool, kMaxTeams>& played);
+  bool EndPlayoffRound();
   bool RunDays(int days);
   void ShowProgress(int day, int days);
 

@@ -40,8 +40,9 @@ void TodayPage::AddGame(int number, const ScheduleRecord& r, bool overtime) {
                    (overtime ? " OT" : "") + "</A><BR>");
 }
 
-void TodayPage::AddNextGames(const std::vector<ScheduleRecord>& games, std::size_t from) {
+void TodayPage::AddNextGames(const std::vector<ScheduleRecord>& games) {
   lines_.push_back("<H2>Next Games</H2>");
+  const std::size_t from = FirstUnplayed(games);
   std::set<int> busy;
   for (std::size_t i = from; i < games.size() && i - from < kNextGamesShown; ++i) {
     const ScheduleRecord& r = games[i];

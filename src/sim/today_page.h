@@ -17,9 +17,9 @@ class TodayPage {
   // A game of the day as its record stands after the game; `overtime` for a
   // playoff game decided in overtime.
   void AddGame(int number, const ScheduleRecord& r, bool overtime);
-  // The games from record index `from` (from 0) while both teams are free,
-  // at most 31 of them.
-  void AddNextGames(const std::vector<ScheduleRecord>& games, std::size_t from);
+  // The games from the first unplayed one while both teams are free, at most
+  // 31 of them.
+  void AddNextGames(const std::vector<ScheduleRecord>& games);
   // The footer file or the default end; writes the page.
   void Close();
 

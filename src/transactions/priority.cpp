@@ -1,18 +1,35 @@
 #include "transactions/priority.h"
 
+#include <vector>
+
 #include "league/league_files.h"
 #include "util/record_file.h"
 
 namespace kvl {
 
-void MakePriority(LeagueState& s) {
+namespace {
+
+void WritePriority(LeagueState& s, const std::vector<std::uint8_t>& places) {
   RemoveIfExists(s.swap(swp::Priority));
-  RecordFile f(s.swap(swp::Priority), 1);
+  RecordFile(s.swap(swp::Priority), 1).putRun(1, places);
+}
+
+}  // namespace
+
+void MakePriority(LeagueState& s) {
+  std::vector<std::uint8_t> places;
   for (int t = 0; t < s.numTeams(); ++t) {
-    const std::uint8_t place = static_cast<std::uint8_t>(t);
-    f.put(static_cast<std::size_t>(t) + 1, std::span<const std::uint8_t>(&place, 1));
-    s.team(t).Priority = place;
+    places.push_back(static_cast<std::uint8_t>(t));
+    s.team(t).Priority = static_cast<u8>(t);
   }
+  WritePriority(s, places);
+}
+
+void MakeNewPriority(LeagueState& s) {
+  std::vector<std::uint8_t> places(static_cast<std::size_t>(s.numTeams()), 0);
+  for (int t = 0; t < s.numTeams(); ++t)
+    if (s.team(t).Priority < places.size()) places[s.team(t).Priority] = static_cast<std::uint8_t>(t);
+  WritePriority(s, places);
 }
 
 }  // namespace kvl

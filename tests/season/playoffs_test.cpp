@@ -1,0 +1,211 @@
+// Seeding by each point system and its ties, division leaders, the bracket's
+// stages, series that end at four wins, and re-rating's classes and clamps.
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "league/league_files.h"
+#include "season/new_season.h"
+#include "season/playoff_bracket.h"
+#include "season/playoff_series.h"
+#include "season/points.h"
+#include "season/rerate.h"
+#include "season/schedule_file.h"
+#include "support/league_fixture.h"
+#include "support/schedule_leagues.h"
+
+namespace kvl::test {
+namespace {
+
+struct Line {
+  int w, l, t, otw, otl, gf, ga;
+};
+
+Team Record(const Line& r) {
+  Team t;
+  t.W = {static_cast<u8>(r.w), static_cast<u8>(r.otw), 0};
+  t.L = {static_cast<u8>(r.l), static_cast<u8>(r.otl), 0};
+  t.T = {static_cast<u8>(r.t), 0, 0};
+  t.GF = static_cast<i16>(r.gf);
+  t.GA = static_cast<i16>(r.ga);
+  return t;
+}
+
+TEST(TeamPoints, ByPointSystem) {
+  const Line line{10, 5, 3, 2, 4, 0, 0};  // 10 wins (2 in overtime), 4 overtime losses, 3 ties
+  struct Row {
+    u8 system;
+    bool playoffs;
+    int points;
+  } rows[] = {
+      {kClassic, false, 23}, {kModern, false, 27}, {kAmerican, false, 20},
+      {kSwedish, false, 35}, {kSwedish, true, 23},  // every system counts as Classic in the playoffs
+  };
+  for (const Row& r : rows) {
+    League l;
+    l.PointSystem = r.system;
+    l.InPlayoffs = r.playoffs ? kTrue : kFalse;
+    EXPECT_EQ(TeamPoints(l, Record(line)), r.points) << "system " << int(r.system) << " playoffs " << r.playoffs;
+  }
+}
+
+TEST(RankTeams, PointsThenWinsThenGoalDifferenceThenTeamOrder) {
+  Harness h;
+  h.load(AlignedLeague({{2, 2}, {2, 2}}));
+  const Line lines[] = {
+      {10, 10, 0, 0, 0, 50, 50},  // 20 points
+      {9, 9, 2, 0, 0, 60, 40},    // 20 points, fewer wins
+      {10, 10, 0, 0, 0, 55, 50},  // 20 points, as many wins, better difference
+      {10, 10, 0, 0, 0, 50, 50},  // equal to team 0 in all three: behind it
+      {11, 9, 0, 0, 0, 40, 60},   // 22 points
+      {0, 20, 0, 0, 0, 0, 0},    {0, 20, 0, 0, 0, 0, 0}, {0, 20, 0, 0, 0, 0, 0},
+  };
+  for (int t = 0; t < 8; ++t) {
+    Team r = Record(lines[t]);
+    Team& team = h.state.team(t);
+    team.W = r.W, team.L = r.L, team.T = r.T, team.GF = r.GF, team.GA = r.GA;
+  }
+  EXPECT_EQ(RankTeams(h.state), (std::vector<int>{4, 2, 0, 3, 1, 5, 6, 7}));
+}
+
+// An eight-team league seeded from these wins (team order by default).
+struct Bracket {
+  explicit Bracket(int playoffSize, bool leaders = false, std::function<int(const Team&, int)> wins = nullptr) {
+    h.load(AlignedLeague({{2, 2}, {2, 2}}));
+    h.state.league.PlayoffSize = static_cast<u8>(playoffSize);
+    h.state.league.SeedDivLeaders = leaders ? kTrue : kFalse;
+    for (int t = 0; t < 8; ++t) h.state.team(t).W[0] = static_cast<u8>(wins ? wins(team(t), t) : 20 - t);
+    h.state.Playoff = PlayoffState{};
+    h.state.Playoff.PlayoffRound = 1;
+    MakePlayoffSeeds(h.state);
+  }
+  const Team& team(int t) { return h.state.team(t); }
+  Harness h;
+};
+
+TEST(MakePlayoffSeeds, TopFourStartsAtStageTwoAndLeavesEarlierStagesEmpty) {
+  Bracket b(2);
+  const PlayoffState& p = b.h.state.Playoff;
+  for (int stage : {0, 1})
+    for (int series = 0; series < SeriesInStage(stage); ++series)
+      EXPECT_EQ(p.SeriesHome[PlayoffState::Index(stage, series)], 0) << "stage " << stage;
+  int qualified = 0;
+  for (int t = 0; t < 8; ++t) qualified += b.team(t).PlayoffOut == 0;
+  EXPECT_EQ(qualified, 4);
+  EXPECT_EQ(b.h.state.league.PlayoffTeams, 4);
+  const std::size_t first = PlayoffState::Index(2, 0);
+  EXPECT_EQ(b.team(p.SeriesHome[first]).Conf, b.team(p.SeriesAway[first]).Conf);
+  EXPECT_LT(p.SeriesHome[first], p.SeriesAway[first]) << "the better seed hosts";
+}
+
+TEST(MakePlayoffSeeds, ADivisionLeaderQualifiesWhereverHeIsSeeded) {
+  // Conference 0's division 1 is weak: its best would miss a top-4 cut.
+  auto wins = [](const Team& t, int n) { return t.Conf == 0 && t.Div == 1 ? 1 + n : 10 + n; };
+  Bracket plain(2, false, wins), leaders(2, true, wins);
+  for (int t = 0; t < 8; ++t)
+    EXPECT_TRUE(leaders.team(t).Conf != 0 || leaders.team(t).Div != 1 || plain.team(t).PlayoffOut == 1) << t;
+  const PlayoffState& p = leaders.h.state.Playoff;
+  int marked = 0;
+  for (std::size_t i = 0; i < 8; ++i) {
+    if (!p.DivLeader[i]) continue;
+    ++marked;
+    EXPECT_EQ(leaders.team(p.Seeds[i]).PlayoffOut, 0) << "seed " << i;
+  }
+  EXPECT_EQ(marked, 4) << "two divisions in each conference";
+  int weakIn = 0;
+  for (int t = 0; t < 8; ++t)
+    weakIn += leaders.team(t).Conf == 0 && leaders.team(t).Div == 1 && !leaders.team(t).PlayoffOut;
+  EXPECT_EQ(weakIn, 1) << "the weak division's leader takes a place";
+}
+
+TEST(SeriesWin, EndsAtExactlyFourAndStrikesTheGamesLeft) {
+  Bracket b(2);
+  LeagueState& s = b.h.state;
+  CreatePlayoffSchedule(s);
+  const std::size_t i = PlayoffState::Index(2, 0);
+  const int host = s.Playoff.SeriesHome[i], other = s.Playoff.SeriesAway[i];
+  for (int n = 0; n < 3; ++n) SeriesWin(s, other, host);
+  EXPECT_FALSE(s.Playoff.SeriesDone[i]);
+  for (int n = 0; n < 4; ++n) SeriesWin(s, host, other);
+  EXPECT_TRUE(s.Playoff.SeriesDone[i]);
+  EXPECT_EQ(s.Playoff.HomeWins[i], 4);
+  EXPECT_EQ(s.team(other).PlayoffOut, 1);
+  SeriesWin(s, other, host);
+  EXPECT_EQ(s.Playoff.AwayWins[i], 3) << "a decided series takes no more results";
+  EXPECT_EQ(EndPlayoffDay(s), PlayoffProgress::RoundGoesOn) << "the other series is open";
+  for (const ScheduleRecord& r : ReadSchedule(s.swap(swp::Schedule))) {
+    const bool ours = (r.HomeTeam == host && r.AwayTeam == other) || (r.HomeTeam == other && r.AwayTeam == host);
+    EXPECT_EQ(r.Played != 0, ours) << "only the decided series' games are struck";
+  }
+}
+
+TEST(GrowthClass, RangesByAge) {
+  struct Row {
+    int age, low, high;
+  } rows[] = {{16, 2, 4}, {20, 0, 2}, {27, 1, 2}, {33, -1, 1}, {38, -5, 0}, {45, -6, 0}};
+  Rnd rnd(3);
+  for (const Row& r : rows) {
+    int lo = 99, hi = -99;
+    for (int n = 0; n < 2000; ++n) {
+      const int g = GrowthClass(rnd, r.age);
+      lo = std::min(lo, g), hi = std::max(hi, g);
+    }
+    EXPECT_GE(lo, r.low) << "age " << r.age;
+    EXPECT_LE(hi, r.high) << "age " << r.age;
+    EXPECT_LT(lo, hi) << "age " << r.age << " draws more than one class";
+  }
+}
+
+TEST(RerateOne, ClampsEvenTheRatingsAGoalieSkips) {
+  Rnd rnd(5);
+  Player g = MakePlayer("Old Goalie", kGoalie, 60);
+  g.Age = 45;
+  g.rating(kDef) = 10;
+  g.rating(kSco) = 120;
+  RerateOne(rnd, g);
+  EXPECT_EQ(g.rating(kDef), 25);
+  EXPECT_EQ(g.rating(kSco), 99);
+  for (int i = 0; i <= kSco; ++i) EXPECT_GE(g.rating(i), 25);
+}
+
+TEST(RerateOne, TheOldestLoseMostButNeverBelowTheFloor) {
+  // Age 45, a rating of 30: the worst draw takes Int(-6 x 0.99 x 7) x 69 / 100,
+  // -28.98, leaving 1.02: above 0, so it is taken, then lifted to the floor.
+  Rnd rnd(9);
+  int lowest = 99;
+  for (int n = 0; n < 500; ++n) {
+    Player p = MakePlayer("Old Skater", kCentre, 30);
+    p.Age = 45;
+    p.rating(kExp) = 0;
+    RerateOne(rnd, p);
+    for (int i = 0; i <= kSco; ++i) lowest = std::min<int>(lowest, p.rating(i));
+    EXPECT_LE(p.rating(kInt), 30);
+  }
+  EXPECT_EQ(lowest, 25);
+}
+
+TEST(RerateOne, ARatingOf99DoesNotGrow) {
+  Rnd rnd(11);
+  Player p = MakePlayer("Young Star", kCentre, 99);
+  p.Age = 16;  // grows by class 2 to 4
+  RerateOne(rnd, p);
+  for (int i = 0; i <= kSco; ++i) EXPECT_EQ(p.rating(i), 99);
+}
+
+TEST(AgeLeague, OneYearOlderAndContractsRunDownButNotBelowZero) {
+  Harness h;
+  h.load(AlignedLeague({{2, 2}, {2, 2}}));
+  loadteam(h.state, 0, 0);
+  h.state.player(0, 0).Contract = 0;
+  h.state.player(0, 1).Contract = 3;
+  const int age = h.state.player(0, 1).Age;
+  SaveTeam(h.state, 0, 0);
+  AgeLeague(h.state);
+  loadteam(h.state, 0, 0);
+  EXPECT_EQ(h.state.player(0, 0).Contract, 0);
+  EXPECT_EQ(h.state.player(0, 1).Contract, 2);
+  EXPECT_EQ(h.state.player(0, 1).Age, age + 1);
+}
+
+}  // namespace
+}  // namespace kvl::test
