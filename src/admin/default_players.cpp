@@ -42,10 +42,10 @@ constexpr std::array<int, 36> kForwardNumbers{9,  10, 11, 12, 13, 14, 15, 16, 17
 struct Range {
   int lo, hi;
 };
-constexpr Range kDisciplineSkater{80, 99}, kDisciplineFighter{44, 58}, kDisciplineGoalie{70, 95};
-constexpr int kFighterShare = 8;  // percent of skaters
+constexpr Range kDisciplineSkater{87, 99}, kDisciplineFighter{50, 59}, kDisciplineGoalie{70, 95};
+constexpr int kFighterShare = 10;  // percent of skaters
 // A league keeps only goalies who stop nine shots in ten: the pool stands higher.
-constexpr int kGoalieLift = 7, kBestGoalie = 92;
+constexpr int kGoalieLift = 8, kBestGoalie = 93;
 
 int Clamp(int v, int lo, int hi) { return std::max(lo, std::min(hi, v)); }
 

@@ -9,7 +9,9 @@
 #include "console/demo_clubs.h"
 #include "league/league_files.h"
 #include "league/ratings.h"
-#include "reports/page_files.h"
+#include "season/new_season.h"
+#include "season/playoff_bracket.h"
+#include "season/playoffs.h"
 #include "season/schedule_form.h"
 #include "sim/game_day.h"
 #include "team/auto_all.h"
@@ -63,8 +65,11 @@ void HireCoaches(LeagueState& s) {
 // A rerun writes over the last demo: every file of it goes first, so that no
 // file of an earlier, different run is left beside the new ones.
 void SaveDemo(LeagueState& s) {
+  for (const char* name : {"", "PLF", "Rerated", "Next"}) {
+    std::string base = (s.AppPath / kLeagueName).string() + name;
+    for (const auto& kind : LeagueFileKinds()) RemoveIfExists(FindLeagueFile(base, kind.ext));
+  }
   std::string base = (s.AppPath / kLeagueName).string();
-  for (const auto& kind : LeagueFileKinds()) RemoveIfExists(FindLeagueFile(base, kind.ext));
   SaveLeagueAs(s, "", fs::path(base + ".lge"));
   LoadLg(s, base);
 }
@@ -85,6 +90,25 @@ void PlayDemoSeason(LeagueState& s, DemoSummary& d) {
   d.gamesPlayed = games.gamesPlayed;
   d.gameDays = games.daysPlayed;
   SaveLg(s);
+}
+
+// Playoffs to a champion, the re-rate saved as DemoRerated, and the next
+// season begun and saved as DemoNext.
+void PlayDemoYearEnd(LeagueState& s, DemoSummary& d) {
+  // A small demo league sends fewer teams from each conference.
+  while (!QuotaShortfall(s).empty() && s.league.PlayoffSize < 2) ++s.league.PlayoffSize;
+  BeginPlayoffs(s);
+  SaveLg(s);
+  d.playoffPath = s.LeaguePath;
+  Games playoffs(s);
+  playoffs.playoffEnd = {s.AppPath / "DemoRerated.lge", false};
+  playoffs.PlayToEnd();
+  d.playoffGames = playoffs.gamesPlayed;
+  d.champion = playoffs.champion;
+  RollOverSeason(s);
+  SaveLeagueAs(s, "", s.AppPath / "DemoNext.lge");
+  d.nextPath = s.LeaguePath;
+  LoadLg(s, d.nextPath);  // opened as a user would, so the next start finds it
 }
 
 DemoSummary Summarize(LeagueState& s) {
@@ -147,6 +171,7 @@ DemoSummary BuildDemo(LeagueState& s, const DemoOptions& o) {
 DemoSummary RunDemo(LeagueState& s, const DemoOptions& o) {
   DemoSummary d = BuildDemo(s, o);
   PlayDemoSeason(s, d);
+  PlayDemoYearEnd(s, d);
   return d;
 }
 
@@ -155,12 +180,17 @@ std::string DemoSummaryText(const LeagueState& s, const DemoSummary& d) {
     return fmt::format("{:<12}{} ({}), mean Overall of the dressed players {:.1f}\n", what, s.team(t.team).Name.str(),
                        s.team(t.team).Abbrev.str(), t.dressedMean);
   };
+  const std::string season = ExtractLast(d.path), playoffs = ExtractLast(d.playoffPath);
   return fmt::format("Demo league: {} teams, {} players\n", d.teams, d.players) + line("Best team:", d.best) +
          line("Worst team:", d.worst) +
-         fmt::format("Season:     {} games played in {} game days\n", d.gamesPlayed, d.gameDays) +
-         "League:     " + d.path + ".lge\n" + "Pages:      " + TransferFile(s, "").parent_path().string() +
-         " (box scores " + TransferFile(s, "1.html").filename().string() + " and on, daily page " +
-         TransferFile(s, "TodayGames.html").filename().string() + ")\n";
+         fmt::format("Season:     {} games in {} game days: {}.lge\n", d.gamesPlayed, d.gameDays, d.path) +
+         fmt::format("Playoffs:   {} games, champion {}: {}.lge\n", d.playoffGames,
+                     d.champion >= 0 ? s.team(d.champion).Name.str() : "none", d.playoffPath) +
+         fmt::format("Re-rated:   {}\n", (s.AppPath / "DemoRerated.lge").string()) +
+         fmt::format("Next year:  {}.lge (the league open now)\n", d.nextPath) +
+         fmt::format("Pages:      {} (box scores {}1.html and on, playoffs {}-R1-1.html and on, daily page "
+                     "{}TodayGames.html)\n",
+                     (s.AppPath / "Transfer").string(), season, playoffs, playoffs);
 }
 
 }  // namespace kvl

@@ -28,6 +28,9 @@ struct DemoSummary {
   DemoTeam best, worst;
   std::string path;  // the league, without extension
   int gamesPlayed = 0, gameDays = 0;
+  std::string playoffPath, nextPath;
+  int playoffGames = 0;
+  int champion = -1;
 };
 
 // Adds the teams in two conferences, two divisions each (three above 40 teams),
@@ -35,8 +38,9 @@ struct DemoSummary {
 void AlignTeams(LeagueState& s, const std::vector<std::string>& names, int divisions = 0);
 // Builds and saves the demo league, then loads it back as a user would.
 DemoSummary BuildDemo(LeagueState& s, const DemoOptions& o);
-// BuildDemo, then the schedule and the season played and saved. The same
-// options give byte-identical league files.
+// BuildDemo, then the year: the season played and saved, the playoffs to a
+// champion, the re-rate and the next season, each saved under its own name.
+// The same options give byte-identical league files.
 DemoSummary RunDemo(LeagueState& s, const DemoOptions& o);
 std::string DemoSummaryText(const LeagueState& s, const DemoSummary& d);
 

@@ -8,6 +8,7 @@
 #include "console/demo.h"
 #include "league/league_files.h"
 #include "league/roster_check.h"
+#include "season/schedule_file.h"
 #include "support/league_fixture.h"
 #include "util/error.h"
 #include "util/record_file.h"
@@ -40,12 +41,12 @@ TEST(Demo, TheSameSeedGivesByteIdenticalLeagueFiles) {
   EXPECT_NE(first.at("Demo.tms"), DemoFiles(b.home).at("Demo.tms")) << "another seed, another league";
 }
 
-TEST(Demo, EveryTeamIsAlignedFilledCoachedAndPlaysTheSeason) {
+TEST(Demo, EveryTeamIsAlignedFilledCoachedAndPlaysTheYear) {
   test::Harness h;
   DemoSummary d = MakeDemo(h, 24, 1);
   LeagueState& s = h.state;
   EXPECT_EQ(d.path, (h.home / "Demo").string());
-  EXPECT_EQ(s.LeaguePath, d.path) << "loaded back as a user would";
+  EXPECT_EQ(s.LeaguePath, d.nextPath) << "the next season, loaded back as a user would";
   EXPECT_FALSE(s.Dirty);
   ASSERT_EQ(s.numTeams(), 24);
   EXPECT_EQ(d.players, 24 * 28);
@@ -68,8 +69,11 @@ TEST(Demo, EveryTeamIsAlignedFilledCoachedAndPlaysTheSeason) {
   EXPECT_EQ(names.size(), 24u);
   EXPECT_GE(d.best.dressedMean, d.worst.dressedMean);
   EXPECT_LT(d.best.dressedMean - d.worst.dressedMean, 3.0);
-  EXPECT_TRUE(s.league.SeasonOver) << "the season is played";
-  EXPECT_EQ(d.gamesPlayed, s.league.LeagueGames);
+  EXPECT_EQ(static_cast<std::size_t>(d.gamesPlayed), ReadSchedule(d.path + ".scx").size()) << "the season is played";
+  EXPECT_GE(d.champion, 0);
+  EXPECT_GE(d.playoffGames, 15 * 4) << "fifteen series of at least four games";
+  EXPECT_FALSE(s.league.ScheduleMade);
+  EXPECT_TRUE(s.league.FirstDayPending) << "the next season waits for its schedule";
 }
 
 class DemoSizes : public ::testing::TestWithParam<int> {};
