@@ -11,6 +11,7 @@
 #include "team/coach_hire.h"
 #include "team/coach_list.h"
 #include "team/coach_rules.h"
+#include "util/numbers.h"
 #include "team/line_editor.h"
 #include "team/line_table.h"
 #include "team/line_view.h"
@@ -148,6 +149,14 @@ void RunSetLines(Session& s, const LinesArgs& a) {
   for (const auto& text : a.place) {
     auto p = ParsePlacement(text);
     if (!p) RefuseWith(s, "A placement reads ROW:SLOT=PLAYER, as E1:0=12 or G:1=5, not \"" + text + "\".", "Set Lines");
+    if (!e.Offers(p->player)) {
+      const bool named = p->player >= 0 && p->player < kRosterSlots && !s.state.player(0, p->player).empty();
+      RefuseWith(s,
+                 named ? "Roster slot " + NumText(p->player) + " (" + s.state.player(0, p->player).Name.str() +
+                             ") is not dressed: only dressed players go in the lines (" + text + ")."
+                       : "Roster slot " + NumText(p->player) + " holds no player (" + text + ").",
+                 "Set Lines");
+    }
     e.ShowPage(p->page);
     if (e.Place(p->index, p->player)) continue;
     s.ui.print("The placement " + text + " does not fit the line table; nothing was kept.");

@@ -38,6 +38,7 @@ void RegisterSimCommands(CLI::App& app, Session& s);
 void RegisterScheduleCommands(CLI::App& app, Session& s);
 void RegisterAlignmentCommands(CLI::App& app, Session& s);
 void RegisterSeasonCommands(CLI::App& app, Session& s);
+void RegisterTransactionCommands(CLI::App& app, Session& s);
 
 inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterLeagueCommands(app, s);
@@ -47,6 +48,7 @@ inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterScheduleCommands(app, s);
   RegisterAlignmentCommands(app, s);
   RegisterSeasonCommands(app, s);
+  RegisterTransactionCommands(app, s);
 }
 
 // Takes the home folder's lock (refusing a second copy) and starts up.

@@ -11,6 +11,7 @@
 
 #include "league/league_state.h"
 #include "sim/game_side.h"
+#include "util/fixed_text.h"
 
 namespace kvl {
 
@@ -183,7 +184,5 @@ std::string ClockText(int clock);
 std::string Ordinal(int n);
 // "1st Period".
 std::string OrdinalPeriod(int period);
-// The surname with the first initial: "J. Smith".
-std::string ShortName(const std::string& name);
 
 }  // namespace kvl

@@ -17,12 +17,6 @@ std::string Ordinal(int n) {
 
 std::string OrdinalPeriod(int period) { return Ordinal(period) + " Period"; }
 
-std::string ShortName(const std::string& name) {
-  auto space = name.find(' ');
-  if (name.empty() || space == std::string::npos) return name;
-  return name.substr(0, 1) + ". " + name.substr(space + 1);
-}
-
 std::string Game::PlayerName(int sd, int slot) const { return s.player(sd, slot).Name.str(); }
 std::string Game::ShortPlayerName(int sd, int slot) const { return ShortName(PlayerName(sd, slot)); }
 std::string Game::TeamName(int sd) const { return s.team(sideOf(sd).team).Name.str(); }

@@ -3,14 +3,14 @@
 #include "league/league_files.h"
 #include "league/ratings.h"
 #include "team/auto_lines.h"
-#include "team/check_waivers.h"
+#include "transactions/check_waivers.h"
 #include "team/free_agent_release.h"
 #include "team/roster_rules.h"
 #include "util/error.h"
 
 namespace kvl {
 
-RosterMaker::RosterMaker(LeagueState& s, int team, int side) : s_(s), team_(team), side_(side) {}
+RosterMaker::RosterMaker(LeagueState& s, int team, int side) : s_(s), actor_(team), team_(team), side_(side) {}
 
 void RosterMaker::ResetFlags() {
   for (int i = 0; i < kRosterSlots; ++i) {
@@ -100,7 +100,7 @@ void RosterMaker::TransferBuffer() {
       continue;
     }
     p.Status = temp(i);
-    if (p.Status == 0 && PrevStatus[static_cast<std::size_t>(i)] >= 100) CheckWaivers(s_, side_, i, kEditorActor);
+    if (p.Status == 0 && PrevStatus[static_cast<std::size_t>(i)] >= 100) CheckWaivers(s_, side_, i, actor_);
   }
   s_.Dirty = true;
   SaveTeam(s_, team_, side_);

@@ -34,6 +34,9 @@ class RosterMaker {
   Player& at(int i) { return s_.player(side_, i); }
   u8& temp(int i) { return TempStatus[static_cast<std::size_t>(i)]; }
   LeagueState& s_;
+  // Who moves players down, for the waiver question: the team itself, or the
+  // editor acting for the commissioner.
+  int actor_;
 
  private:
   void Dress(int pos, int mode);

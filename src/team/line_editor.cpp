@@ -43,8 +43,14 @@ bool LineEditor::PlaceGoalieRow(int slot, const Player& p, int player) {
   return true;
 }
 
+bool LineEditor::Offers(int player) const {
+  if (player < 0 || player >= kRosterSlots) return false;
+  const Player& p = s_.player(side(), player);
+  return !p.empty() && p.list() == 2;
+}
+
 bool LineEditor::Place(int index, int player) {
-  if (player < 0 || player >= kRosterSlots || index < 0 || index > 22) return false;
+  if (!Offers(player) || index < 0 || index > 22) return false;
   const Player& p = s_.player(side(), player);
   if (index >= 20) return PlaceGoalieRow(index - 20, p, player);
   if (p.Pos == kGoalie) return false;

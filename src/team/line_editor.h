@@ -31,6 +31,8 @@ class LineEditor : public LineMaker {
   // Places `player` on slot `index` of the page (0..19: line x 5 + slot;
   // 20 starter, 21 and 22 spares). True when the table changed.
   bool Place(int index, int player);
+  // Only a dressed player of the roster can be placed.
+  bool Offers(int player) const;
   // Gives a row the focus; its averages then show.
   void ChooseLine(int row) { Focus = row; }
   std::optional<int> focus() const { return Focus; }

@@ -1,5 +1,7 @@
 #include "team/roster_editor.h"
 
+#include "transactions/check_waivers.h"
+
 #include "league/league_files.h"
 #include "league/ratings.h"
 #include "league/roster_check.h"
@@ -25,6 +27,7 @@ int SourceList(RosterMove move) {
 }
 
 RosterEditor::RosterEditor(LeagueState& s, int team) : RosterMaker(s, team, 0) {
+  actor_ = kEditorActor;
   loadteam(s, team, 0);
   ResetFlags();
   listPlayers();

@@ -7,7 +7,7 @@
 
 namespace kvl {
 
-std::vector<DbRecord> ReadDatabase(LeagueState& s) {
+std::vector<DbRecord> ReadDatabase(const LeagueState& s) {
   Bytes all = ReadFileBytes(s.swap(swp::Database));
   std::vector<DbRecord> out;
   for (std::size_t at = 0; at + DbRecord::kSize <= all.size(); at += DbRecord::kSize)
@@ -40,6 +40,16 @@ bool NumberTaken(const LeagueState& s, int side, int num) {
 }
 
 }  // namespace
+
+int NewcomerStatus(const LeagueState& s, int side) {
+  constexpr int kMaxPro = 25;
+  int pro = 0;
+  for (int slot = 0; slot < kRosterSlots; ++slot) {
+    const Player& p = s.player(side, slot);
+    if (!p.empty() && p.list() > 0 && p.Suspended != 99) ++pro;
+  }
+  return pro < kMaxPro ? 100 : 0;
+}
 
 void PlaceOnRoster(LeagueState& s, int side, int slot, const Player& p, int status) {
   Player placed = p;

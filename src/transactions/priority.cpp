@@ -1,5 +1,6 @@
 #include "transactions/priority.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "league/league_files.h"
@@ -30,6 +31,21 @@ void MakeNewPriority(LeagueState& s) {
   for (int t = 0; t < s.numTeams(); ++t)
     if (s.team(t).Priority < places.size()) places[s.team(t).Priority] = static_cast<std::uint8_t>(t);
   WritePriority(s, places);
+}
+
+void UpdatePriority(LeagueState& s, int team) {
+  const std::size_t n = static_cast<std::size_t>(s.numTeams());
+  auto read = [&] { return RecordFile(s.swap(swp::Priority), 1).getRun(1, n); };
+  Bytes places = read();
+  if (std::count(places.begin(), places.end(), 0) > 1) {
+    MakePriority(s);
+    places = read();
+  }
+  auto at = std::find(places.begin(), places.end(), static_cast<std::uint8_t>(team));
+  if (at != places.end()) std::rotate(at, at + 1, places.end());
+  WritePriority(s, std::vector<std::uint8_t>(places.begin(), places.end()));
+  for (std::size_t place = 0; place < n; ++place)
+    if (places[place] < n) s.team(places[place]).Priority = static_cast<u8>(place);
 }
 
 }  // namespace kvl

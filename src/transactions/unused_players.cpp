@@ -12,16 +12,6 @@ namespace kvl {
 namespace {
 
 constexpr const char* kTitle = "Assign Unused Players";
-constexpr int kMaxPro = 25;
-
-int ProCount(const LeagueState& s, int side) {
-  int n = 0;
-  for (int slot = 0; slot < kRosterSlots; ++slot) {
-    const Player& p = s.player(side, slot);
-    if (!p.empty() && p.list() > 0 && p.Suspended != 99) ++n;
-  }
-  return n;
-}
 
 }  // namespace
 
@@ -51,7 +41,7 @@ bool UnusedPlayers::cmdAdd(int team, int record) {
     s_.ui.tell("No room on roster", kTitle);
     return false;
   }
-  PlaceOnRoster(s_, 0, slot, r.P, ProCount(s_, 0) < kMaxPro ? 100 : 0);
+  PlaceOnRoster(s_, 0, slot, r.P, NewcomerStatus(s_, 0));
   SaveTeam(s_, team, 0);
   MarkUsed(s_, {record});
   s_.Dirty = true;

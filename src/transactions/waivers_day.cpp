@@ -1,7 +1,9 @@
 #include "transactions/waivers_day.h"
 
+#include "transactions/waivers.h"
+
 namespace kvl {
 
-void WaiversDay(LeagueState&) {}
+void WaiversDay(LeagueState& s) { UpdateWaivers(s); }
 
 }  // namespace kvl

@@ -4,8 +4,8 @@
 
 namespace kvl {
 
-// Stand-in until the waiver wire is built: there are no waiver records to
-// age or award yet, so the day does nothing.
+// Waiver records 7 days old are removed, their holders moved to the bottom
+// of the priority list.
 void WaiversDay(LeagueState& s);
 
 }  // namespace kvl

@@ -20,4 +20,10 @@ std::string PadCut(std::string_view text, std::size_t width) {
   return out;
 }
 
+std::string ShortName(const std::string& name) {
+  auto space = name.find(' ');
+  if (name.empty() || space == std::string::npos) return name;
+  return name.substr(0, 1) + ". " + name.substr(space + 1);
+}
+
 }  // namespace kvl

@@ -39,6 +39,8 @@ std::string FixedText<N>::str() const {
 
 // Strips blanks, tabs and line ends at both ends, as typed text is taken.
 std::string Trim(std::string_view text);
+// The surname with the first initial: "J. Smith".
+std::string ShortName(const std::string& name);
 
 // Pads with blanks or cuts to the width.
 std::string PadCut(std::string_view text, std::size_t width);

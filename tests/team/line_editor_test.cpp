@@ -36,9 +36,12 @@ TEST_F(LineEditorTest, WrongPlacementsChangeNothing) {
       {"the fourth slot of a 3 on 5 row", kPenaltyKillPage, 13, 12, false},
       {"the third slot of a 3 on 5 row", kPenaltyKillPage, 12, 12, true},
       {"nobody chosen", kEvenPage, 0, -1, false},
+      {"an empty roster slot", kEvenPage, 0, 30, false},
+      {"a player not dressed", kEvenPage, 0, 3, false},
   };
   for (const auto& c : cases) {
     LineEditor e(h.state, 0);
+    h.state.player(0, 3).Status = 100;  // a scratch
     e.ShowPage(c.page);
     LineTable before = e.LineBuf;
     EXPECT_EQ(e.Place(c.index, c.player), c.placed) << c.what;
