@@ -22,18 +22,23 @@ using test::SnapshotDir;
 
 bool Has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
-// The words of the "Enabled commands:" line of info.
-std::vector<std::string> EnabledCommands(const std::string& out) {
-  auto at = out.find("Enabled commands:");
-  std::istringstream line(out.substr(at + 17, out.find('\n', at) - at - 17));
+// The words of a line of info, such as "Enabled commands:"; none when it is absent.
+std::vector<std::string> InfoWords(const std::string& out, const std::string& head) {
+  auto at = out.find(head);
+  if (at == std::string::npos) return {};
+  std::istringstream line(out.substr(at + head.size(), out.find('\n', at) - at - head.size()));
   std::vector<std::string> words;
   for (std::string w; line >> w;) words.push_back(w);
   return words;
 }
 
+// Enabled in the menu, whether built as a command or listed as not available.
 bool Enabled(const std::string& out, const std::string& cmd) {
-  auto words = EnabledCommands(out);
-  return std::find(words.begin(), words.end(), cmd) != words.end();
+  for (const char* head : {"Enabled commands:", "Menu entries not available here:"}) {
+    auto words = InfoWords(out, head);
+    if (std::find(words.begin(), words.end(), cmd) != words.end()) return true;
+  }
+  return false;
 }
 
 class Cli : public ::testing::Test {
@@ -70,17 +75,37 @@ class Cli : public ::testing::Test {
 // ---- exit statuses -------------------------------------------------------------
 
 TEST_F(Cli, UsageErrorsExitTwo) {
-  std::vector<std::vector<std::string>> cases{{"frobnicate"},
-                                              {},
-                                              {"info", "--bogus"},
-                                              {"--seed", "many", "info"},
-                                              {"--answers", (dir.path() / "nowhere").string(), "info"},
-                                              {"rename-league"},
-                                              {"--yes", "--no", "info"}};
-  for (const auto& args : cases) {
-    ProgramRun r = Run(args);
-    EXPECT_EQ(r.status, 2) << fmt::format("{}", fmt::join(args, " ")) << "\n" << r.out << r.err;
+  struct Case {
+    std::vector<std::string> args;
+    std::string said;  // on stderr; a command error also lists the commands
+  };
+  std::vector<Case> cases{{{"frobnicate"}, "kvl: unknown command \"frobnicate\""},
+                          {{"--seed", "3", "frobnicate", "x"}, "kvl: unknown command \"frobnicate\""},
+                          {{}, "kvl: no command given"},
+                          {{"info", "--bogus"}, "--bogus"},
+                          {{"--seed", "many", "info"}, "many"},
+                          {{"--answers", (dir.path() / "nowhere").string(), "info"}, "nowhere"},
+                          {{"rename-league"}, "NAME"},
+                          {{"--yes", "--no", "info"}, "--no"}};
+  for (const auto& c : cases) {
+    ProgramRun r = Run(c.args);
+    std::string run = fmt::format("{}", fmt::join(c.args, " "));
+    EXPECT_EQ(r.status, 2) << run << "\n" << r.out << r.err;
+    EXPECT_TRUE(Has(r.err, c.said)) << run << "\n" << r.err;
+    if (Has(c.said, "command")) {
+      EXPECT_TRUE(Has(r.err, "Commands:\n") && Has(r.err, "  save-as")) << r.err;
+    }
   }
+}
+
+TEST_F(Cli, InfoListsOnlyCommandsThatExist) {
+  ProgramRun info = Run({"--league", league, "info"});
+  auto listed = InfoWords(info.out, "Enabled commands:");
+  ASSERT_GE(listed.size(), 6u) << info.out;
+  for (const auto& cmd : listed)
+    EXPECT_TRUE(Has(Run({cmd, "--help"}).out, " " + cmd + " [OPTIONS]")) << cmd << " is listed but not a command";
+  for (const auto& cmd : InfoWords(info.out, "Menu entries not available here:"))
+    EXPECT_TRUE(Has(Run({cmd}).err, "unknown command")) << cmd << " is a command but listed as not available";
 }
 
 TEST_F(Cli, EveryCommandHasHelp) {
