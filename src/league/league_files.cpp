@@ -8,6 +8,7 @@
 
 #include "league/roster_check.h"
 #include "league/schedule_convert.h"
+#include "league/value_check.h"
 #include "ui/ui.h"
 #include "util/file_set_write.h"
 #include "util/record_file.h"
@@ -224,6 +225,7 @@ void LoadLg(LeagueState& s, const std::string& path) {
   ConvertSchedCheck(s);
   if (!s.league.InPlayoffs && s.league.PointSystem > 3) s.league.PointSystem = 0;
   RosterCheck(s);
+  TellUnplayableValues(s);
 }
 
 void SaveLg(LeagueState& s) {

@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include <fstream>
+#include <functional>
 #include <sstream>
 
 #include "console/startup.h"
@@ -313,6 +314,66 @@ TEST_F(Cli, ADamagedFileFailsWithTheMessageOnStderr) {
     EXPECT_EQ(test::Differences(before, Files()), std::vector<std::string>{});
   }
 }
+
+// Values a record can hold but a game or a form cannot use: the load tells them
+// once, and the command that meets them stops naming the file, record and field.
+struct StopCase {
+  const char* name;
+  std::function<void(const std::string& league)> damage;
+  std::vector<std::string> args;
+  int status;
+  std::vector<std::string> said;  // in what the run printed, with {} for the league path
+};
+
+void PrintTo(const StopCase& c, std::ostream* os) { *os << c.name; }
+
+class CliStops : public Cli, public ::testing::WithParamInterface<StopCase> {};
+
+TEST_P(CliStops, NameTheFileTheRecordAndTheField) {
+  const auto& c = GetParam();
+  c.damage(league);
+  Snapshot before = Files();
+  std::vector<std::string> args{"--league", league, "--no"};
+  args.insert(args.end(), c.args.begin(), c.args.end());
+  ProgramRun r = Run(args);
+  EXPECT_EQ(r.status, c.status) << r.out << r.err;
+  for (const auto& said : c.said) EXPECT_TRUE(Has(r.out + r.err, fmt::format(fmt::runtime(said), league))) << said << "\n" << r.out << r.err;
+  EXPECT_FALSE(Has(r.err, "Overflow") || Has(r.err, "filesystem")) << r.err;
+  EXPECT_EQ(test::Differences(before, Files()), std::vector<std::string>{});
+}
+
+void SetSpeed(const std::string& league) {
+  RecordFile ros(league + ".ros", Player::kSize);
+  Player p = ros.getRecord<Player>(2 * kRosterSlots + 12 + 1);
+  p.Ratings[kSpd] = 255;
+  ros.putRecord(2 * kRosterSlots + 12 + 1, p);
+}
+
+void SetDivisionMember(const std::string& league) {
+  League lg = DecodeRecord<League>(ReadFileBytes(league + ".lge"));
+  lg.Conf[0].Div[1].Team[2] = 187;
+  WriteFileAtomic(league + ".lge", EncodeRecord(lg));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, CliStops,
+    ::testing::Values(
+        StopCase{"RatingAbove99", SetSpeed, {"exhibition", "2", "3"}, 3,
+                 {"[Validate League] {}.ros: ratings above 99 cannot be played",
+                  "kvl: {}.ros: a game cannot be played with these ratings\nTeam2, slot 12, record 113 (",
+                  "): rating Spd is 255, above 99"}},
+        StopCase{"DivisionMember", SetDivisionMember, {"align", "show"}, 1,
+                 {"[Validate League] {}.lge: the alignment names teams the league lacks",
+                  "Unexpected error in AlignLeague.\n{}.lge: ",
+                  "conference 1 (CONF 1), division 2 (DIV 2), place 3: team 187, the league has teams 0 to 9"}},
+        StopCase{"FolderForAFile",
+                 [](const std::string& league) {
+                   fs::remove(league + ".ros");
+                   fs::create_directory(league + ".ros");
+                 },
+                 {"info"}, 3,
+                 {"kvl: {}.ros: is not a file: a folder or a device stands where the league's file should be"}}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(Cli, AMissingFileIsToldAndEndsTheRun) {
   fs::remove(league + ".coa");
