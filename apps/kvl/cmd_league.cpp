@@ -16,7 +16,7 @@ fs::path AsLeagueFile(std::string p) {
 
 void RegisterLeagueCommands(CLI::App& app, Session& s) {
   AddCommand(app, s, "info", "Show the open league: conferences, divisions, teams, state and enabled commands", false,
-             [&s] { s.ui.print(InfoText(s.state)); });
+             [&s] { s.ui.print(InfoText(s.state, s.commands)); });
 
   auto path = std::make_shared<std::string>();
   AddCommand(app, s, "load", "Load a league (asks to save unsaved work first)", false,

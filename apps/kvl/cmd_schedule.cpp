@@ -71,7 +71,8 @@ constexpr ParamOption kParamOptions[] = {
     {"--conf", ScheduleParam::vsConf, "Inter-division: games with the rest of the conference (0-10, default 2)"},
     {"--lg", ScheduleParam::vsLg, "Inter-conference: games with the other conference (0-10, default 2)"},
     {"--gp", ScheduleParam::GPTeam,
-     "Total GP/Team: games per team (from the suggested number to 110; default the suggestion)"},
+     "Total GP/Team: games per team, between the suggested number and 110 (the suggestion may be the higher); "
+     "default the suggestion"},
     {"--gp-day", ScheduleParam::GPDay, "GP/Day Target: games per game day (default a fifth of the teams)"},
     {"--variance", ScheduleParam::Variance,
      "GP/Day Variance: spread of games per day around the target (default about a quarter of the teams)"},

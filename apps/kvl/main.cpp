@@ -74,10 +74,11 @@ int Main(int argc, char** argv) {
   app.add_subcommand("shell", "An interactive console that keeps the league open across commands")
       ->callback([&] { shell = true; });
   RegisterAllCommands(app, s);
+  s.commands = CommandNames(app);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& e) {
-    return app.exit(e) == 0 ? kExitOk : kExitUsage;
+    return ReportParseError(app, e);
   }
   s.home = HomeFolder(g.home);
   s.state.AppPath = s.home;

@@ -1,5 +1,7 @@
 #include "session.h"
 
+#include <fmt/format.h>
+
 #include <iostream>
 
 #include "util/error.h"
@@ -33,6 +35,36 @@ void StartSession(Session& s, HomeLock& lock) {
       throw Refused("second copy");
     }
     StartUp(s.state, s.leagueArg);
+}
+
+namespace {
+
+std::string CommandList(CLI::App& app) {
+  std::string out = "Commands:\n";
+  for (const CLI::App* c : app.get_subcommands([](const CLI::App*) { return true; }))
+    out += fmt::format("  {:<22}{}\n", c->get_name(), c->get_description());
+  return out;
+}
+
+}  // namespace
+
+std::set<std::string> CommandNames(CLI::App& app) {
+  std::set<std::string> names;
+  for (const CLI::App* c : app.get_subcommands([](const CLI::App*) { return true; })) names.insert(c->get_name());
+  return names;
+}
+
+int ReportParseError(CLI::App& app, const CLI::ParseError& e) {
+  if (e.get_exit_code() == 0 || !app.get_subcommands().empty()) return app.exit(e) == 0 ? kExitOk : kExitUsage;
+  std::string word;
+  for (const std::string& arg : app.remaining())
+    if (!arg.empty() && arg[0] != '-') {
+      word = arg;
+      break;
+    }
+  std::cerr << (word.empty() ? std::string("kvl: no command given") : "kvl: unknown command \"" + word + "\"") << "\n"
+            << CommandList(app);
+  return kExitUsage;
 }
 
 int RunGuarded(Session& s, const std::function<void()>& work) {

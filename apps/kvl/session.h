@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 
 #include "console/startup.h"
@@ -23,6 +24,8 @@ struct Session {
   std::optional<std::string> leagueArg;  // --league
   // The command chosen by the parse, run after start-up.
   std::function<void()> pending;
+  // The names of the commands this front end offers, as registered.
+  std::set<std::string> commands;
 };
 
 // Adds a command whose handler runs with the league open (or refuses when none
@@ -56,6 +59,13 @@ void StartSession(Session& s, HomeLock& lock);
 
 // Exit statuses.
 constexpr int kExitOk = 0, kExitRefused = 1, kExitUsage = 2, kExitFailure = 3;
+
+// The names of `app`'s commands, for info to list only what exists.
+std::set<std::string> CommandNames(CLI::App& app);
+
+// A failed parse: an unknown or missing command is named and the commands
+// listed; anything else as CLI11 reports it. Returns the exit status.
+int ReportParseError(CLI::App& app, const CLI::ParseError& e);
 
 // Runs `pending` and maps what it throws to an exit status, printing failures.
 int RunGuarded(Session& s, const std::function<void()>& work);

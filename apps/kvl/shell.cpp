@@ -42,8 +42,7 @@ bool RunLine(Session& s, const std::vector<std::string>& words, int& lastRc) {
   try {
     app.parse(args);
   } catch (const CLI::ParseError& e) {
-    app.exit(e);
-    lastRc = kExitUsage;
+    lastRc = ReportParseError(app, e);
     return true;
   }
   bool fatal = false;
@@ -65,6 +64,8 @@ int RunShell(Session& s, HomeLock& lock) {
     StartSession(s, lock);
   });
   if (rc != kExitOk) return rc;
+  s.commands.erase("shell");  // not inside itself
+  s.commands.insert("exit");
   std::cout << "KVL shell. Type a command (help for the list), or exit.\n";
   for (std::string line;;) {
     std::cout << "kvl> " << std::flush;

@@ -7,6 +7,7 @@
 #include "admin/alignment_renumber.h"
 #include "admin/league_creation.h"
 #include "league/league_files.h"
+#include "league/value_check.h"
 #include "transactions/priority.h"
 #include "ui/ui.h"
 #include "util/error.h"
@@ -19,23 +20,14 @@ namespace {
 constexpr const char* kTitle = "Align League";
 constexpr const char* kDisrupt = "This will disrupt current schedule! Continue?";
 
-bool ListsAreSound(const LeagueState& s) {
-  for (const auto& conf : s.league.Conf) {
-    if (conf.NumDivs > kMaxDivisions) return false;
-    for (const auto& div : conf.Div) {
-      if (div.NumTeams > kMaxDivisionTeams) return false;
-      for (int i = 0; i < div.NumTeams; ++i)
-        if (div.Team[static_cast<std::size_t>(i)] >= s.numTeams()) return false;
-    }
-  }
-  return true;
-}
-
 }  // namespace
 
 AlignLeague::AlignLeague(LeagueState& s) : s_(s) {
-  if (!ListsAreSound(s_)) {
-    s_.ui.tell("Unexpected error in AlignLeague.", "Unexpected error");
+  if (auto problems = AlignmentProblems(s_); !problems.empty()) {
+    s_.ui.tell("Unexpected error in AlignLeague.\n" +
+                   ProblemText(FindLeagueFile(s_.LeaguePath, ".lge").string(), "the alignment names teams the league lacks",
+                               problems),
+               "Unexpected error");
     throw Refused("broken alignment lists");
   }
 }

@@ -10,8 +10,6 @@
 
 namespace kvl {
 
-constexpr int kMaxDivisions = 4;
-constexpr int kMaxDivisionTeams = 10;
 
 class AlignLeague {
  public:

@@ -151,6 +151,7 @@ void MakeNewLeague(LeagueState& s, const fs::path& db, const std::string& name) 
   SetDefaultAlignment(s.league);
   s.LeaguePath.clear();
   s.LeagueShort.clear();
+  s.leagueLock.release();  // the old league is no longer open here
   s.loaded = true;
   LeagueDefaults(s);
   s.Dirty = true;

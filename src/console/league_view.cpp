@@ -49,7 +49,7 @@ void AppendAlignment(const LeagueState& s, std::string& out) {
 
 }  // namespace
 
-std::string InfoText(const LeagueState& s) {
+std::string InfoText(const LeagueState& s, const std::set<std::string>& commands) {
   std::string out;
   if (!s.hasLeague()) {
     out += "No league is open. Home folder: " + s.AppPath.string() + "\n";
@@ -61,10 +61,11 @@ std::string InfoText(const LeagueState& s) {
     out += fmt::format("State:  {}\n", LeagueStateName(lg));
     AppendAlignment(s, out);
   }
-  out += "Enabled commands:";
+  std::string offered, missing;
   for (const auto& e : ComputeMenu(s.league, {s.hasLeague(), s.Dirty}))
-    if (e.enabled && e.visible) out += " " + e.cli;
-  out += "\n";
+    if (e.enabled && e.visible) (commands.count(e.cli) ? offered : missing) += " " + e.cli;
+  out += "Enabled commands:" + offered + "\n";
+  if (!missing.empty()) out += "Menu entries not available here:" + missing + "\n";
   return out;
 }
 

@@ -1,9 +1,5 @@
 #include "console/startup.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <fstream>
 
@@ -13,19 +9,6 @@
 #include "util/record_file.h"
 
 namespace kvl {
-
-bool HomeLock::acquire(const fs::path& home) {
-  fd_ = ::open((home / "kvl.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
-  if (fd_ < 0) throw KvlError("cannot open the lock file in " + home.string());
-  if (::flock(fd_, LOCK_EX | LOCK_NB) == 0) return true;
-  ::close(fd_);
-  fd_ = -1;
-  return false;
-}
-
-HomeLock::~HomeLock() {
-  if (fd_ >= 0) ::close(fd_);
-}
 
 League DefaultLeagueHeader() {
   League lg;
@@ -108,6 +91,8 @@ void StartUp(LeagueState& s, const std::optional<std::string>& league) {
     if (!path.empty()) LoadLg(s, path);
   } catch (const FatalStop&) {
     throw;  // already told
+  } catch (const Refused&) {
+    throw;
   } catch (const std::exception&) {
     s.ui.tell("An unexpected error occurred in the initialization of KVL.", "Load League");
     throw;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "league/league_state.h"
+#include "util/file_lock.h"
 
 namespace kvl {
 
@@ -12,11 +13,10 @@ namespace kvl {
 class HomeLock {
  public:
   // False when another copy holds it.
-  bool acquire(const fs::path& home);
-  ~HomeLock();
+  bool acquire(const fs::path& home) { return lock_.acquire(home / "kvl.lock"); }
 
  private:
-  int fd_ = -1;
+  FileLock lock_;
 };
 
 // The header a new default.lge holds.

@@ -8,7 +8,9 @@
 
 #include "league/roster_check.h"
 #include "league/schedule_convert.h"
+#include "league/value_check.h"
 #include "ui/ui.h"
+#include "util/file_set_write.h"
 #include "util/record_file.h"
 
 namespace kvl {
@@ -71,7 +73,12 @@ const std::vector<std::string>& SaveOrder() {
   throw KvlError(fmt::format("{}: {}", file.string(), what));
 }
 
+void CheckIsFile(const fs::path& f) {
+  if (!fs::is_regular_file(f)) Damaged(f, "is not a file: a folder or a device stands where the league's file should be");
+}
+
 void CheckWholeRecords(const fs::path& f, const std::string& ext) {
+  CheckIsFile(f);
   std::size_t len = FileKind(ext).recordLen;
   auto size = fs::file_size(f);
   if (len > 0 && size % len != 0)
@@ -88,6 +95,7 @@ League CheckFileSet(LeagueState& s, const std::string& path) {
   }
   if (fs::path frm = FindLeagueFile(path, ".frm"); fs::exists(frm)) CheckWholeRecords(frm, ".frm");
   fs::path lge = FindLeagueFile(path, ".lge");
+  CheckIsFile(lge);
   Bytes header = ReadFileBytes(lge);
   if (header.size() != League::kSize)
     Damaged(lge, fmt::format("the league header is {} bytes, it should be {}", header.size(), League::kSize));
@@ -102,6 +110,7 @@ League CheckFileSet(LeagueState& s, const std::string& path) {
   if (lg.InPlayoffs) {
     fs::path plf = FindLeagueFile(path, ".plf");
     if (!fs::exists(plf)) MissingFile(s, plf);
+    CheckIsFile(plf);
     if (fs::file_size(plf) < PlayoffState::kSize) Damaged(plf, "the playoff state is shorter than 388 bytes");
   }
   return lg;
@@ -133,7 +142,35 @@ void ReadTeamsAndFarm(LeagueState& s, const std::string& path, bool clearWaived)
   }
 }
 
+// The saved waiver file drops the empty entries the swap copy keeps.
+Bytes CompactWaivers(const Bytes& all) {
+  Bytes kept;
+  for (std::size_t at = 0; at + WaiverRecord::kSize <= all.size(); at += WaiverRecord::kSize)
+    if (all[at] >= 1)
+      kept.insert(kept.end(), all.begin() + static_cast<long>(at), all.begin() + static_cast<long>(at + WaiverRecord::kSize));
+  return kept;
+}
+
+fs::path LeagueLockFile(const std::string& path) {
+  return fs::weakly_canonical(fs::absolute(fs::path(path + ".lock")));
+}
+
+// The lock of the league at `path`: nullopt when this state holds it already.
+// Refused, after telling, when another copy of the program has it open.
+std::optional<FileLock> TakeLeagueLock(LeagueState& s, const std::string& path) {
+  fs::path file = LeagueLockFile(path);
+  if (s.leagueLock.held() && s.leagueLock.file() == file) return std::nullopt;
+  FileLock lock(true);
+  if (lock.acquire(file)) return lock;
+  s.ui.tell("The league " + path + " is open in another copy of KVL (" + file.string() +
+                " is held). To ensure no files will be corrupted, it cannot be opened here.",
+            "League in use");
+  throw Refused("league in use: " + path);
+}
+
 }  // namespace
+
+fs::path LeagueJournal(const std::string& leaguePath) { return fs::path(leaguePath + ".saving"); }
 
 std::string StripLeagueExtension(const std::string& path) {
   if (path.size() >= 4 && Lower(path.substr(path.size() - 4)) == ".lge") return path.substr(0, path.size() - 4);
@@ -167,6 +204,9 @@ void WriteKvlDef(const LeagueState& s) {
 }
 
 void LoadLg(LeagueState& s, const std::string& path) {
+  std::optional<FileLock> lock = TakeLeagueLock(s, path);
+  if (RollForward(s.files(), LeagueJournal(path)))
+    s.ui.tell("A save of " + path + " was interrupted; it has now been completed.", "Load League");
   League lg = CheckFileSet(s, path);
   bool wvrMissing = !fs::exists(FindLeagueFile(path, ".wvr"));
   CopyToSwap(s, path);
@@ -179,11 +219,13 @@ void LoadLg(LeagueState& s, const std::string& path) {
   s.LeaguePath = path;
   s.LeagueShort = ExtractLast(path);
   s.loaded = true;
+  if (lock) s.leagueLock = std::move(*lock);
   WriteKvlDef(s);
   s.Dirty = false;
   ConvertSchedCheck(s);
   if (!s.league.InPlayoffs && s.league.PointSystem > 3) s.league.PointSystem = 0;
   RosterCheck(s);
+  TellUnplayableValues(s);
 }
 
 void SaveLg(LeagueState& s) {
@@ -196,24 +238,21 @@ void SaveLg(LeagueState& s) {
       f.putRecord(static_cast<std::size_t>(i) + 1, s.Farm[static_cast<std::size_t>(i)]);
     }
   }
+  // Every file goes in as one set, so a stop half way leaves the old league or the new.
+  FileSetWrite set(s.files(), LeagueJournal(s.LeaguePath));
   League stored = s.league;
   stored.NumTeams = static_cast<u8>(stored.NumTeams - 1);
-  WriteFileAtomic(FindLeagueFile(s.LeaguePath, ".lge"), EncodeRecord(stored));
+  set.write(FindLeagueFile(s.LeaguePath, ".lge"), EncodeRecord(stored));
   for (const auto& ext : SaveOrder()) {
     fs::path w = s.swap(FileKind(ext).swap);
     fs::path f = FindLeagueFile(s.LeaguePath, ext);
-    if (fs::exists(w)) CopyFileAtomic(w, f);
-    else RemoveIfExists(f);
+    if (fs::exists(w)) set.copy(w, f);
+    else set.remove(f);
   }
   fs::path wv = s.swap(swp::Waivers);
-  if (fs::exists(wv)) {
-    Bytes all = ReadFileBytes(wv);
-    Bytes kept;
-    for (std::size_t at = 0; at + WaiverRecord::kSize <= all.size(); at += WaiverRecord::kSize)
-      if (all[at] >= 1) kept.insert(kept.end(), all.begin() + static_cast<long>(at), all.begin() + static_cast<long>(at + WaiverRecord::kSize));
-    WriteFileAtomic(FindLeagueFile(s.LeaguePath, ".wvr"), kept);
-  }
-  if (s.league.InPlayoffs) WriteFileAtomic(FindLeagueFile(s.LeaguePath, ".plf"), EncodeRecord(s.Playoff));
+  if (fs::exists(wv)) set.write(FindLeagueFile(s.LeaguePath, ".wvr"), CompactWaivers(ReadFileBytes(wv)));
+  if (s.league.InPlayoffs) set.write(FindLeagueFile(s.LeaguePath, ".plf"), EncodeRecord(s.Playoff));
+  set.commit();
   s.Dirty = false;
 }
 
@@ -222,11 +261,19 @@ bool SaveLeagueAs(LeagueState& s, const std::string& defaultName, std::optional<
     chosen = s.ui.chooseFile(defaultName.empty() ? "Save League As" : defaultName,
                                 "All Files|*.*|KVL League Files|*.lge", fs::path(s.LeaguePath + ".lge"), true);
   if (!chosen) return false;
+  std::string name = StripLeagueExtension(chosen->string());
+  std::optional<FileLock> lock = TakeLeagueLock(s, name);  // before asking: a league open elsewhere is no choice
   if (fs::exists(*chosen) && s.ui.ask("File Exists! Overwrite?", "Save League", Buttons::YesNo) != Answer::Yes)
     return false;
-  std::string name = chosen->string();
-  s.LeaguePath = StripLeagueExtension(name);
-  SaveLg(s);
+  std::string oldPath = s.LeaguePath;
+  s.LeaguePath = name;
+  try {
+    SaveLg(s);
+  } catch (...) {
+    s.LeaguePath = oldPath;
+    throw;
+  }
+  if (lock) s.leagueLock = std::move(*lock);
   s.LeagueShort = ExtractLast(s.LeaguePath);
   return true;
 }

@@ -51,8 +51,13 @@ std::string ExtractLast(const std::string& path);
 // name when none exists.
 fs::path FindLeagueFile(const std::string& leaguePath, const std::string& ext);
 
-// Loads the league at `path` (no extension) into the swap files and memory.
-// A missing required file is told, kvl.def removed, and FatalStop thrown; a
+// The journal of a save in progress, beside the league's files; one found at
+// load means a save was stopped half way, and it is completed first.
+fs::path LeagueJournal(const std::string& leaguePath);
+
+// Loads the league at `path` (no extension) into the swap files and memory,
+// taking its lock (Refused when another copy holds it) and completing an
+// interrupted save first. A missing required file is told, kvl.def removed, and FatalStop thrown; a
 // damaged file throws KvlError naming it. Either way the league's files are untouched.
 void LoadLg(LeagueState& s, const std::string& path);
 void SaveLg(LeagueState& s);

@@ -7,6 +7,8 @@
 
 #include "league/records.h"
 #include "util/clock.h"
+#include "util/file_lock.h"
+#include "util/file_system.h"
 #include "util/rnd.h"
 
 namespace kvl {
@@ -40,6 +42,12 @@ struct LeagueState {
 
   bool hasLeague() const { return loaded; }
   bool loaded = false;
+
+  // Where league files are written; a test puts one in that fails on demand.
+  FileSystem* fileSystem = &RealFileSystem();
+  FileSystem& files() const { return *fileSystem; }
+  // Held on the open league's lock file, so no other copy opens it.
+  FileLock leagueLock{true};
 
   kvl::Player& player(int side, int slot) { return Player[static_cast<std::size_t>(side)][static_cast<std::size_t>(slot)]; }
   const kvl::Player& player(int side, int slot) const {

@@ -22,6 +22,8 @@ constexpr int kMaxProspects = 100;
 constexpr int kLineRows = 13;
 constexpr int kLineSlots = 5;
 constexpr u8 kNoPlayer = 255;
+constexpr int kMaxDivisions = 4;       // a conference's
+constexpr int kMaxDivisionTeams = 10;  // a division's
 
 enum Position : u8 { kCentre = 0, kLeftWing = 1, kRightWing = 2, kDefence = 3, kGoalie = 4 };
 

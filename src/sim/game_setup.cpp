@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "league/league_files.h"
+#include "league/value_check.h"
 #include "league/ratings.h"
 #include "sim/byte_round.h"
 #include "sim/game.h"
@@ -62,6 +63,7 @@ void Game::LoadSide(int sd, int teamIndex) {
   } else {
     loadteam(s, teamIndex, sd);
   }
+  kvl::CheckRatingsPlayable(s, teamIndex, sd);  // names the rating, where the engine would only overflow
   s.CurTeam = static_cast<u8>(teamIndex);
   if (!s.team(teamIndex).LinesOK) AutoRoster(s, teamIndex, sd);
 }

@@ -7,6 +7,7 @@
 #include <cctype>
 
 #include "league/league_files.h"
+#include "league/value_check.h"
 #include "league/ratings.h"
 #include "league/tables.h"
 #include "ui/ui.h"
@@ -17,8 +18,6 @@ namespace kvl {
 
 namespace {
 
-constexpr std::array<const char*, 13> kRatingNames{"Int", "Spd", "Str", "End", "Dur", "Dis", "Ska",
-                                                   "Pas", "Pcc", "Def", "Sco", "Exp", "Ldr"};
 constexpr std::array<const char*, 5> kPositions{"C", "LW", "RW", "D", "G"};
 
 std::vector<PlayerField> MakePlayerFields() {

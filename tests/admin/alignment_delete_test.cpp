@@ -303,6 +303,7 @@ TEST_F(DeleteTeam, ThePlayersOfTheTeamAreFreeInTheDatabaseAgain) {
 TEST_F(DeleteTeam, SavedLeagueLoadsAgainAndPassesTheChecks) {
   AlignLeague(h.state).cmdDelete(kGone);
   SaveLg(h.state);
+  h.state.leagueLock.release();  // closed, as a second run would find it
 
   ScriptedUi ui2;
   LeagueState again(ui2, h.clock, h.home);

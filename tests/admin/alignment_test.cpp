@@ -174,10 +174,16 @@ TEST_F(Align, ExpansionMarksAndClears) {
   EXPECT_EQ(h.state.team(2).Expansion, 0);
 }
 
-TEST_F(Align, BrokenListsAreTheFormsUnexpectedError) {
-  h.state.league.Conf[0].Div[0].Team[0] = 9;  // no such team
+TEST_F(Align, BrokenListsAreTheFormsUnexpectedErrorNamingThePlace) {
+  h.state.league.Conf[0].Div[0].Team[0] = 187;  // no such team
   EXPECT_THROW(AlignLeague{h.state}, Refused);
-  EXPECT_TRUE(h.ui.told("Unexpected error in AlignLeague.", "Unexpected error"));
+  auto told = h.ui.callsOf("tell");
+  ASSERT_EQ(told.size(), 1u);
+  EXPECT_EQ(told[0].title, "Unexpected error");
+  EXPECT_EQ(told[0].text.rfind("Unexpected error in AlignLeague.\n" + h.state.LeaguePath + ".lge: ", 0), 0u) << told[0].text;
+  EXPECT_NE(told[0].text.find("conference 1 (CONF 1), division 1 (DIV 1), place 1: team 187, the league has teams 0 to"),
+            std::string::npos)
+      << told[0].text;
 }
 
 }  // namespace

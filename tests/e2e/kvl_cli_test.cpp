@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include <fstream>
+#include <functional>
 #include <sstream>
 
 #include "console/startup.h"
@@ -22,18 +23,23 @@ using test::SnapshotDir;
 
 bool Has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
-// The words of the "Enabled commands:" line of info.
-std::vector<std::string> EnabledCommands(const std::string& out) {
-  auto at = out.find("Enabled commands:");
-  std::istringstream line(out.substr(at + 17, out.find('\n', at) - at - 17));
+// The words of a line of info, such as "Enabled commands:"; none when it is absent.
+std::vector<std::string> InfoWords(const std::string& out, const std::string& head) {
+  auto at = out.find(head);
+  if (at == std::string::npos) return {};
+  std::istringstream line(out.substr(at + head.size(), out.find('\n', at) - at - head.size()));
   std::vector<std::string> words;
   for (std::string w; line >> w;) words.push_back(w);
   return words;
 }
 
+// Enabled in the menu, whether built as a command or listed as not available.
 bool Enabled(const std::string& out, const std::string& cmd) {
-  auto words = EnabledCommands(out);
-  return std::find(words.begin(), words.end(), cmd) != words.end();
+  for (const char* head : {"Enabled commands:", "Menu entries not available here:"}) {
+    auto words = InfoWords(out, head);
+    if (std::find(words.begin(), words.end(), cmd) != words.end()) return true;
+  }
+  return false;
 }
 
 class Cli : public ::testing::Test {
@@ -70,17 +76,37 @@ class Cli : public ::testing::Test {
 // ---- exit statuses -------------------------------------------------------------
 
 TEST_F(Cli, UsageErrorsExitTwo) {
-  std::vector<std::vector<std::string>> cases{{"frobnicate"},
-                                              {},
-                                              {"info", "--bogus"},
-                                              {"--seed", "many", "info"},
-                                              {"--answers", (dir.path() / "nowhere").string(), "info"},
-                                              {"rename-league"},
-                                              {"--yes", "--no", "info"}};
-  for (const auto& args : cases) {
-    ProgramRun r = Run(args);
-    EXPECT_EQ(r.status, 2) << fmt::format("{}", fmt::join(args, " ")) << "\n" << r.out << r.err;
+  struct Case {
+    std::vector<std::string> args;
+    std::string said;  // on stderr; a command error also lists the commands
+  };
+  std::vector<Case> cases{{{"frobnicate"}, "kvl: unknown command \"frobnicate\""},
+                          {{"--seed", "3", "frobnicate", "x"}, "kvl: unknown command \"frobnicate\""},
+                          {{}, "kvl: no command given"},
+                          {{"info", "--bogus"}, "--bogus"},
+                          {{"--seed", "many", "info"}, "many"},
+                          {{"--answers", (dir.path() / "nowhere").string(), "info"}, "nowhere"},
+                          {{"rename-league"}, "NAME"},
+                          {{"--yes", "--no", "info"}, "--no"}};
+  for (const auto& c : cases) {
+    ProgramRun r = Run(c.args);
+    std::string run = fmt::format("{}", fmt::join(c.args, " "));
+    EXPECT_EQ(r.status, 2) << run << "\n" << r.out << r.err;
+    EXPECT_TRUE(Has(r.err, c.said)) << run << "\n" << r.err;
+    if (Has(c.said, "command")) {
+      EXPECT_TRUE(Has(r.err, "Commands:\n") && Has(r.err, "  save-as")) << r.err;
+    }
   }
+}
+
+TEST_F(Cli, InfoListsOnlyCommandsThatExist) {
+  ProgramRun info = Run({"--league", league, "info"});
+  auto listed = InfoWords(info.out, "Enabled commands:");
+  ASSERT_GE(listed.size(), 6u) << info.out;
+  for (const auto& cmd : listed)
+    EXPECT_TRUE(Has(Run({cmd, "--help"}).out, " " + cmd + " [OPTIONS]")) << cmd << " is listed but not a command";
+  for (const auto& cmd : InfoWords(info.out, "Menu entries not available here:"))
+    EXPECT_TRUE(Has(Run({cmd}).err, "unknown command")) << cmd << " is a command but listed as not available";
 }
 
 TEST_F(Cli, EveryCommandHasHelp) {
@@ -288,6 +314,66 @@ TEST_F(Cli, ADamagedFileFailsWithTheMessageOnStderr) {
     EXPECT_EQ(test::Differences(before, Files()), std::vector<std::string>{});
   }
 }
+
+// Values a record can hold but a game or a form cannot use: the load tells them
+// once, and the command that meets them stops naming the file, record and field.
+struct StopCase {
+  const char* name;
+  std::function<void(const std::string& league)> damage;
+  std::vector<std::string> args;
+  int status;
+  std::vector<std::string> said;  // in what the run printed, with {} for the league path
+};
+
+void PrintTo(const StopCase& c, std::ostream* os) { *os << c.name; }
+
+class CliStops : public Cli, public ::testing::WithParamInterface<StopCase> {};
+
+TEST_P(CliStops, NameTheFileTheRecordAndTheField) {
+  const auto& c = GetParam();
+  c.damage(league);
+  Snapshot before = Files();
+  std::vector<std::string> args{"--league", league, "--no"};
+  args.insert(args.end(), c.args.begin(), c.args.end());
+  ProgramRun r = Run(args);
+  EXPECT_EQ(r.status, c.status) << r.out << r.err;
+  for (const auto& said : c.said) EXPECT_TRUE(Has(r.out + r.err, fmt::format(fmt::runtime(said), league))) << said << "\n" << r.out << r.err;
+  EXPECT_FALSE(Has(r.err, "Overflow") || Has(r.err, "filesystem")) << r.err;
+  EXPECT_EQ(test::Differences(before, Files()), std::vector<std::string>{});
+}
+
+void SetSpeed(const std::string& league) {
+  RecordFile ros(league + ".ros", Player::kSize);
+  Player p = ros.getRecord<Player>(2 * kRosterSlots + 12 + 1);
+  p.Ratings[kSpd] = 255;
+  ros.putRecord(2 * kRosterSlots + 12 + 1, p);
+}
+
+void SetDivisionMember(const std::string& league) {
+  League lg = DecodeRecord<League>(ReadFileBytes(league + ".lge"));
+  lg.Conf[0].Div[1].Team[2] = 187;
+  WriteFileAtomic(league + ".lge", EncodeRecord(lg));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Values, CliStops,
+    ::testing::Values(
+        StopCase{"RatingAbove99", SetSpeed, {"exhibition", "2", "3"}, 3,
+                 {"[Validate League] {}.ros: ratings above 99 cannot be played",
+                  "kvl: {}.ros: a game cannot be played with these ratings\nTeam2, slot 12, record 113 (",
+                  "): rating Spd is 255, above 99"}},
+        StopCase{"DivisionMember", SetDivisionMember, {"align", "show"}, 1,
+                 {"[Validate League] {}.lge: the alignment names teams the league lacks",
+                  "Unexpected error in AlignLeague.\n{}.lge: ",
+                  "conference 1 (CONF 1), division 2 (DIV 2), place 3: team 187, the league has teams 0 to 9"}},
+        StopCase{"FolderForAFile",
+                 [](const std::string& league) {
+                   fs::remove(league + ".ros");
+                   fs::create_directory(league + ".ros");
+                 },
+                 {"info"}, 3,
+                 {"kvl: {}.ros: is not a file: a folder or a device stands where the league's file should be"}}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(Cli, AMissingFileIsToldAndEndsTheRun) {
   fs::remove(league + ".coa");

@@ -9,7 +9,8 @@ namespace kvl::test {
 Snapshot SnapshotDir(const fs::path& dir) {
   Snapshot s;
   for (const auto& e : fs::directory_iterator(dir))
-    if (e.is_regular_file()) s[e.path().filename().string()] = ReadFileBytes(e.path());
+    if (e.is_regular_file() && e.path().extension() != ".lock")  // held while open, not league data
+      s[e.path().filename().string()] = ReadFileBytes(e.path());
   return s;
 }
 
