@@ -46,8 +46,14 @@ struct LeagueState {
   // Where league files are written; a test puts one in that fails on demand.
   FileSystem* fileSystem = &RealFileSystem();
   FileSystem& files() const { return *fileSystem; }
-  // Held on the open league's lock file, so no other copy opens it.
-  FileLock leagueLock{true};
+  // Held on the open league's lock file, so no other copy opens it. A copy of
+  // the state (the engine's parallel runs) holds no lock of its own.
+  struct LeagueLock : FileLock {
+    LeagueLock() : FileLock(true) {}
+    LeagueLock(const LeagueLock&) : FileLock(true) {}
+    using FileLock::operator=;
+  };
+  LeagueLock leagueLock;
 
   kvl::Player& player(int side, int slot) { return Player[static_cast<std::size_t>(side)][static_cast<std::size_t>(slot)]; }
   const kvl::Player& player(int side, int slot) const {

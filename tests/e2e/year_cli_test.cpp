@@ -52,6 +52,7 @@ TEST(YearCommands, PlayoffsToAChampionThenANewSeasonAndASecondYear) {
 
   Harness h;
   LoadLg(h.state, rerated);
+  h.state.leagueLock.release();  // read only; the next command opens it
   const League& l = h.state.league;
   EXPECT_TRUE(l.OffSeason && !l.InPlayoffs && !l.SeasonOver);
   int alive = 0;
@@ -78,6 +79,7 @@ TEST(YearCommands, PlayoffsToAChampionThenANewSeasonAndASecondYear) {
   Harness before, after;
   LoadLg(before.state, rerated);
   LoadLg(after.state, next);
+  after.state.leagueLock.release();
   for (int t = 0; t < after.state.numTeams(); ++t) {
     EXPECT_EQ(after.state.team(t).W[0] + after.state.team(t).L[0] + after.state.team(t).GF, 0) << "team " << t;
     loadteam(before.state, t, 0);
