@@ -176,15 +176,18 @@ bool Games::MultipleGames() {
   return PlayGameDay();
 }
 
+// The label tells the day, the games played and the time left: by days in a
+// run of N days, by games in a full season.
 void Games::ShowProgress(int day, int days) {
   const League& l = s_.league;
-  std::string label = days > 0 ? "Game Day " + NumText(day) + " of " + NumText(days) : "Game Day " + NumText(day);
+  std::string label = "Game Day " + NumText(day) + (days > 0 ? " of " + NumText(days) : "");
+  if (!l.InPlayoffs) label += fmt::format(", {} of {} games played", l.GamesPlayed, l.LeagueGames);
+  const double elapsed = std::chrono::duration<double>(std::chrono::steady_clock::now() - runStart_).count();
   const int done = gamesPlayed - runStartGames_;
-  const int left = l.LeagueGames - l.GamesPlayed;
-  if (done > 0 && left > 0 && days == 0) {
-    const double perGame = std::chrono::duration<double>(std::chrono::steady_clock::now() - runStart_).count() / done;
-    label += fmt::format(", {} of {} games, about {:.0f} s left", l.GamesPlayed, l.LeagueGames, perGame * left);
-  }
+  double left = -1;
+  if (days > 0 && day > 1) left = elapsed / (day - 1) * (days - day + 1);
+  if (days == 0 && done > 0 && !l.InPlayoffs) left = elapsed / done * (l.LeagueGames - l.GamesPlayed);
+  if (left >= 0) label += fmt::format(", about {:.0f} s left", left);
   s_.ui.progress("Games", label, days > 0 ? day : l.GamesPlayed, days > 0 ? days : l.LeagueGames);
 }
 
