@@ -8,6 +8,7 @@
 #include "season/new_season.h"
 #include "season/playoff_bracket.h"
 #include "season/playoff_series.h"
+#include "season/playoffs.h"
 #include "season/points.h"
 #include "season/rerate.h"
 #include "season/schedule_file.h"
@@ -116,6 +117,31 @@ TEST(MakePlayoffSeeds, ADivisionLeaderQualifiesWhereverHeIsSeeded) {
   for (int t = 0; t < 8; ++t)
     weakIn += leaders.team(t).Conf == 0 && leaders.team(t).Div == 1 && !leaders.team(t).PlayoffOut;
   EXPECT_EQ(weakIn, 1) << "the weak division's leader takes a place";
+}
+
+TEST(Playoffs, RefusedBeforeAnythingIsWritten) {
+  struct Row {
+    bool seasonOver, named;
+    int playoffSize;
+    const char* told;
+  } rows[] = {
+      {false, true, 1, "The playoffs begin once the regular season has been played out."},
+      {true, false, 1, "The league has no file name yet"},
+      {true, true, 0, "The playoffs take 8 teams from each conference, but CONF 1 has only 4."},
+  };
+  for (const Row& r : rows) {
+    Harness h;
+    h.load(AlignedLeague({{2, 2}, {2, 2}}));
+    h.state.league.SeasonOver = r.seasonOver ? kTrue : kFalse;
+    h.state.league.PlayoffSize = static_cast<u8>(r.playoffSize);
+    if (!r.named) h.state.LeaguePath.clear();
+    const std::string path = h.state.LeaguePath;
+    EXPECT_FALSE(Playoffs(h.state)) << r.told;
+    ASSERT_FALSE(h.ui.calls().empty());
+    EXPECT_EQ(h.ui.calls().back().text.rfind(r.told, 0), 0u) << h.ui.calls().back().text;
+    EXPECT_FALSE(h.state.league.InPlayoffs);
+    EXPECT_EQ(h.state.LeaguePath, path);
+  }
 }
 
 TEST(SeriesWin, EndsAtExactlyFourAndStrikesTheGamesLeft) {
