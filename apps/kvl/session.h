@@ -37,6 +37,7 @@ void RegisterAdminCommands(CLI::App& app, Session& s);
 void RegisterSimCommands(CLI::App& app, Session& s);
 void RegisterScheduleCommands(CLI::App& app, Session& s);
 void RegisterAlignmentCommands(CLI::App& app, Session& s);
+void RegisterReportCommands(CLI::App& app, Session& s);
 
 inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterLeagueCommands(app, s);
@@ -45,6 +46,7 @@ inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterSimCommands(app, s);
   RegisterScheduleCommands(app, s);
   RegisterAlignmentCommands(app, s);
+  RegisterReportCommands(app, s);
 }
 
 // Takes the home folder's lock (refusing a second copy) and starts up.

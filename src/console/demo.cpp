@@ -9,6 +9,7 @@
 #include "console/demo_clubs.h"
 #include "league/league_files.h"
 #include "league/ratings.h"
+#include "reports/output_form.h"
 #include "reports/page_files.h"
 #include "season/schedule_form.h"
 #include "sim/game_day.h"
@@ -82,6 +83,7 @@ void PlayDemoSeason(LeagueState& s, DemoSummary& d) {
   MakeDemoSchedule(s);
   Games games(s);
   games.PlayToEnd();
+  WritePageGroups(s, AllPageGroups(), true);
   d.gamesPlayed = games.gamesPlayed;
   d.gameDays = games.daysPlayed;
   SaveLg(s);
