@@ -49,6 +49,8 @@ std::string RowUnder(std::string label, const std::vector<std::string>& values, 
   return line;
 }
 
+std::string CutLabel(std::string_view raw, std::size_t width) { return HtmlText(Pad(raw, width)); }
+
 std::string TeamText(const LeagueState& s, int team) { return HtmlText(s.team(team).Name.str()); }
 
 std::string TeamLink(const LeagueState& s, int team) {

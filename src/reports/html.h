@@ -27,6 +27,9 @@ std::vector<std::size_t> CaptionEnds(std::string_view columns);
 // at its column. A value that meets a long label keeps one blank before it.
 std::string RowUnder(std::string label, const std::vector<std::string>& values, const std::vector<std::size_t>& ends);
 
+// A label of a row, cut to `width` so its values keep their columns, escaped.
+std::string CutLabel(std::string_view raw, std::size_t width);
+
 // A team's name, condensed and escaped.
 std::string TeamText(const LeagueState& s, int team);
 // "<A HREF=<league>Rosters.html#name>name</A>".

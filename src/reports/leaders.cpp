@@ -24,8 +24,9 @@ int Points(const Player& p) { return p.G + p.A; }
 // Goals against a minute-less goalie count as 255 a game.
 double Gaa(int against, int minutes) { return minutes == 0 ? 255 : against / (minutes / 60.0); }
 
-std::string Label(const LeagueState& s, std::size_t place, const RosterEntry& e) {
-  return RookieMark(e.p) + NumText(static_cast<double>(place + 1)) + "." + NameAndTeam(s, e);
+// Cut where the games column begins, leaving room for three digits.
+std::string Label(const LeagueState& s, std::size_t place, const RosterEntry& e, const std::vector<std::size_t>& ends) {
+  return CutLabel(RookieMark(e.p) + NumText(static_cast<double>(place + 1)) + "." + NameAndTeam(s, e), ends[0] - 3);
 }
 
 std::string ShotPct(int goals, int shots) { return shots == 0 ? "0.0" : FormatNumber(100.0 * goals / shots, "###.0"); }
@@ -55,7 +56,7 @@ void ScoringTable(const LeagueState& s, const std::vector<RosterEntry>& rows, Pa
   const std::vector<std::size_t> valueEnds(ends.begin() + 1, ends.end());
   for (std::size_t i = 0; i < rows.size(); ++i) {
     const Player& p = rows[i].p;
-    page.add(RowUnder(Label(s, i, rows[i]),
+    page.add(RowUnder(Label(s, i, rows[i], valueEnds),
                       {NumText(p.GP), NumText(p.G), NumText(p.A), NumText(Points(p)), NumText(p.Plus), NumText(p.PIM),
                        NumText(p.PP), NumText(p.SH), NumText(p.Shots), ShotPct(p.G, p.Shots)},
                       valueEnds));
@@ -73,7 +74,7 @@ void GoalieTable(const LeagueState& s, const std::vector<RosterEntry>& rows, int
     const Player& p = rows[i].p;
     std::string pct = p.Shots == 0 ? "N/A" : FormatNumber(double(p.Shots - p.PIM) / p.Shots, "#.000");
     std::string avg = p.Plus == 0 ? "N/A" : FormatNumber(Gaa(p.PIM, p.Plus), "#0.00");
-    page.add(RowUnder(Label(s, i, rows[i]),
+    page.add(RowUnder(Label(s, i, rows[i], valueEnds),
                       {NumText(p.GP), NumText(p.SH), NumText(p.GW), NumText(p.GT), NumText(p.Plus), NumText(p.PIM),
                        NumText(p.PP), avg, NumText(p.G), NumText(p.Shots), pct, NumText(p.A)},
                       valueEnds));
@@ -86,9 +87,10 @@ void Top5Page(PageRun& run, const std::vector<RosterEntry>& scorers) {
   const char* columns = "<PRE> Player                 GP  Pts";
   page.add(columns);
   const auto ends = CaptionEnds(columns);
+  const std::vector<std::size_t> valueEnds{ends[1], ends[2]};
   for (std::size_t i = 0; i < scorers.size() && i < 5; ++i)
-    page.add(RowUnder(Label(run.s, i, scorers[i]), {NumText(scorers[i].p.GP), NumText(Points(scorers[i].p))},
-                      {ends[1], ends[2]}));
+    page.add(RowUnder(Label(run.s, i, scorers[i], valueEnds),
+                      {NumText(scorers[i].p.GP), NumText(Points(scorers[i].p))}, valueEnds));
   page.add("</PRE>");
   page.write();
 }
@@ -119,11 +121,12 @@ void FarmLeadersPage(PageRun& run, const std::vector<RosterEntry>& all) {
   Page page(run, kFarmLeaders);
   page.add(kFarmColumns);
   const auto ends = CaptionEnds(kFarmColumns);
+  const std::vector<std::size_t> valueEnds(ends.begin() + 1, ends.end());
   for (std::size_t i = 0; i < skaters.size(); ++i) {
     const Player& p = skaters[i].p;
-    page.add(RowUnder(Label(s, i, skaters[i]),
+    page.add(RowUnder(Label(s, i, skaters[i], valueEnds),
                       {NumText(p.FarmStatA), NumText(p.FarmStatD), NumText(p.FarmStatC), NumText(farmPoints(p)), "0"},
-                      {ends.begin() + 1, ends.end()}));
+                      valueEnds));
   }
   page.add("</PRE>");
   page.add("<H3>Goaltending Leaders</H3>");
@@ -131,10 +134,10 @@ void FarmLeadersPage(PageRun& run, const std::vector<RosterEntry>& all) {
   const char* goalieColumns = " Player                GP  AVG";
   page.add(goalieColumns);
   const auto gEnds = CaptionEnds(goalieColumns);
+  const std::vector<std::size_t> goalieEnds{gEnds[1], gEnds[2]};
   for (std::size_t i = 0; i < goalies.size(); ++i)
-    page.add(RowUnder(Label(s, i, goalies[i]),
-                      {NumText(goalies[i].p.FarmStatA), FormatNumber(farmGaa(goalies[i].p), "#0.00")},
-                      {gEnds[1], gEnds[2]}));
+    page.add(RowUnder(Label(s, i, goalies[i], goalieEnds),
+                      {NumText(goalies[i].p.FarmStatA), FormatNumber(farmGaa(goalies[i].p), "#0.00")}, goalieEnds));
   page.add("</PRE>");
   page.write();
 }

@@ -53,7 +53,7 @@ int MinGoalieGP(const LeagueState& s) {
 std::string RookieMark(const Player& p) { return p.Rookie ? "*" : " "; }
 
 std::string NameAndTeam(const LeagueState& s, const RosterEntry& e) {
-  return PlayerText(e.p) + " (" + TeamText(s, e.team) + ")";
+  return e.p.Name.str() + " (" + s.team(e.team).Name.str() + ")";
 }
 
 }  // namespace kvl

@@ -34,7 +34,7 @@ int MinGoalieGP(const LeagueState& s);
 
 // Mark, name and team for the leaders' rows: "*" for a rookie.
 std::string RookieMark(const Player& p);
-// "<name> (<team>)", escaped.
+// "<name> (<team>)", not yet escaped.
 std::string NameAndTeam(const LeagueState& s, const RosterEntry& e);
 
 }  // namespace kvl

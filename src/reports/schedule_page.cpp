@@ -17,7 +17,7 @@ constexpr int kPlayoffDaysHeaded = 7;
 
 std::string Overtime(int periods) {
   if (periods == 0) return "";
-  return periods == 1 ? "(OT)" : "(" + NumText(periods) + "OT)";
+  return periods == 1 ? " (OT)" : " (" + NumText(periods) + "OT)";
 }
 
 std::string GameLine(const LeagueState& s, int n, const ScheduleRecord& r) {
@@ -28,7 +28,7 @@ std::string GameLine(const LeagueState& s, int n, const ScheduleRecord& r) {
   if (playoffs && r.AwayScore == 0 && r.HomeScore == 0) return "<strike>" + num + "</strike><BR>";
   std::string file = playoffs ? "-R" + NumText(s.Playoff.PlayoffRound) + "-" + num : num;
   return "<A HREF=" + s.LeagueShort + file + ".html>" + num + "  " + away + " " + NumText(r.AwayScore) + " at " +
-         home + " " + NumText(r.HomeScore) + "</A> " + Overtime(r.Overtime) + "<BR>";
+         home + " " + NumText(r.HomeScore) + "</A>" + Overtime(r.Overtime) + "<BR>";
 }
 
 }  // namespace

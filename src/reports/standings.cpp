@@ -69,8 +69,10 @@ bool ConferenceTable(const LeagueState& s, const std::vector<StandingRow>& rows,
   page.add("<H3>" + HtmlText(s.league.Conf[static_cast<std::size_t>(conf)].Name.str()) + " Conference</H3>");
   ColumnLines(s.league, page);
   std::vector<StandingRow> confRows = Filter(s, rows, conf, -1);
-  std::vector<std::string> marks = s.league.Exhibition ? std::vector<std::string>(confRows.size(), " ")
-                                                       : ClinchMarks(s, confRows, w);
+  // Without a schedule there is nothing to clinch.
+  const bool marked = !s.league.Exhibition && s.league.ScheduleMade;
+  std::vector<std::string> marks =
+      marked ? ClinchMarks(s, confRows, w) : std::vector<std::string>(confRows.size(), " ");
   bool x = false;
   for (std::size_t i = 0; i < confRows.size(); ++i) {
     page.add(Row(s, confRows[i], w, marks[i]));
