@@ -24,6 +24,9 @@ void BM_Season30Teams82Games(benchmark::State& st) {
   LeagueState s(ui, clock, home);
   PrepareHomeFolder(home);
   BuildDemo(s, {kTeams, 1, 3});
+  // The season's own pages only: box scores and the daily page, not the
+  // league's pages after every day.
+  s.league.OptAutoOutput = kFalse;
   const std::string fresh = (home / "Fresh").string();
   SaveLeagueAs(s, "", fs::path(fresh + ".lge"));
   double games = 0;

@@ -12,6 +12,8 @@
 #include "season/new_season.h"
 #include "season/playoff_bracket.h"
 #include "season/playoffs.h"
+#include "reports/output_form.h"
+#include "reports/page_files.h"
 #include "season/schedule_form.h"
 #include "sim/game_day.h"
 #include "team/auto_all.h"
@@ -87,6 +89,7 @@ void PlayDemoSeason(LeagueState& s, DemoSummary& d) {
   MakeDemoSchedule(s);
   Games games(s);
   games.PlayToEnd();
+  WritePageGroups(s, AllPageGroups(), true);
   d.gamesPlayed = games.gamesPlayed;
   d.gameDays = games.daysPlayed;
   SaveLg(s);

@@ -1,7 +1,9 @@
 #include "reports/auto_output.h"
 
+#include "reports/output_form.h"
+
 namespace kvl {
 
-void AutoHTMLOutput(LeagueState&) {}
+void AutoHTMLOutput(LeagueState& s) { WritePageGroups(s, StoredPagePicks(s.league), false); }
 
 }  // namespace kvl

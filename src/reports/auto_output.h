@@ -4,9 +4,8 @@
 
 namespace kvl {
 
-// Stand-in until the page writers are built: the box scores and the daily
-// page are written by the game day itself; the league's other pages are not
-// written yet.
+// Writes the groups whose stored flag is set; the playoff tree only once the
+// season has reached the playoffs.
 void AutoHTMLOutput(LeagueState& s);
 
 }  // namespace kvl

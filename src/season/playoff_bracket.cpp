@@ -111,7 +111,7 @@ std::string QuotaShortfall(const LeagueState& s) {
 
 void MakePlayoffSeeds(LeagueState& s) {
   PlayoffState& p = s.Playoff;
-  const std::vector<int> ranked = RankTeams(s);
+  const std::vector<int> ranked = SeedOrder(s);
   for (int i = 0; i < Seeded(s); ++i) p.Seeds[At(i)] = static_cast<u8>(ranked[At(i)]);
   // A fiftieth team has no seed place, and so no place in the playoffs.
   for (std::size_t i = kSeedPlaces; i < ranked.size(); ++i) s.team(ranked[i]).PlayoffOut = 1;

@@ -9,12 +9,11 @@ namespace kvl {
 
 enum PointSystem : u8 { kClassic = 0, kModern = 1, kAmerican = 2, kSwedish = 3 };
 
-// Points as one byte. While the playoffs run every system counts as Classic.
-u8 TeamPoints(const League& league, const Team& t);
-// True when `a` ranks above `b`: more points, then more wins, then a better
-// goal difference.
-bool Beats(const League& league, const Team& a, const Team& b);
-// The teams best first; equals keep team order.
-std::vector<int> RankTeams(const LeagueState& s);
+// The point system in force: the playoffs count by the classic one.
+int PointSystemInForce(const League& league);
+int TeamPoints(const League& league, const Team& t);
+// The teams best first for the playoff seeds: more points, then more wins,
+// then a better goal difference; equals keep team order.
+std::vector<int> SeedOrder(const LeagueState& s);
 
 }  // namespace kvl

@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include "reports/html.h"
 #include "reports/page_files.h"
 #include "util/numbers.h"
 
@@ -42,7 +43,7 @@ void GoalieLines(const Game& g, std::vector<std::string>& out) {
       const Player& p = g.s.player(sd, slot);
       if (p.Pos != kGoalie || own.IceTime[slot] <= 0) continue;
       int shots = own.ShotsOnGoalie[slot];
-      std::string line = p.Name.str() + " (" + g.TeamAbbrev(sd) + "), " + NumText(shots - own.GoalsOnGoalie[slot]) +
+      std::string line = HtmlText(p.Name.str()) + " (" + g.TeamAbbrev(sd) + "), " + NumText(shots - own.GoalsOnGoalie[slot]) +
                          " saves out of " + NumText(shots) + " shots";
       if (slot == own.CreditGoalie) {
         line += own.Goals > opp ? ",  W, " : own.Goals < opp ? ",  L, " : ",  T, ";

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "reports/html.h"
 #include "sim/condition.h"
 #include "util/numbers.h"
 
@@ -30,7 +31,7 @@ int GoalDraw(const LeagueState& s, int side) {
 }
 
 std::string NameOr(const LeagueState& s, int side, u8 slot) {
-  return slot == kNoPlayer ? "unknown" : s.player(side, slot).Name.str();
+  return slot == kNoPlayer ? "unknown" : HtmlText(s.player(side, slot).Name.str());
 }
 
 struct FarmGoal {
@@ -58,9 +59,9 @@ FarmGoal ScoreFarmGoal(LeagueState& s, int side) {
 }
 
 std::string GoalLine(const LeagueState& s, int side, int team, const FarmGoal& goal) {
-  std::string line = s.Farm[static_cast<std::size_t>(team)].Name.str() + ": " + NameOr(s, side, goal.scorer) + " (";
+  std::string line = HtmlText(s.Farm[static_cast<std::size_t>(team)].Name.str()) + ": " + NameOr(s, side, goal.scorer) + " (";
   for (std::size_t i = 0; i < goal.assists.size(); ++i)
-    line += (i ? ", " : "") + s.player(side, goal.assists[i]).Name.str();
+    line += (i ? ", " : "") + HtmlText(s.player(side, goal.assists[i]).Name.str());
   return line + ")";
 }
 
@@ -119,8 +120,8 @@ std::vector<std::string> PlayFarmGame(LeagueState& s, int away, int home) {
   for (int sd = 0; sd < 2; ++sd)
     goals[static_cast<std::size_t>(sd)] = static_cast<int>(std::floor(s.rnd(GoalDraw(s, sd)) / 250.0));
   std::vector<std::string> lines;
-  lines.push_back(s.Farm[static_cast<std::size_t>(away)].Name.str() + " " + NumText(goals[0]) + "  " +
-                  s.Farm[static_cast<std::size_t>(home)].Name.str() + " " + NumText(goals[1]));
+  lines.push_back(HtmlText(s.Farm[static_cast<std::size_t>(away)].Name.str()) + " " + NumText(goals[0]) + "  " +
+                  HtmlText(s.Farm[static_cast<std::size_t>(home)].Name.str()) + " " + NumText(goals[1]));
   lines.push_back(std::string(37, '-'));
   for (int sd = 0; sd < 2; ++sd) {
     for (int n = 0; n < goals[static_cast<std::size_t>(sd)]; ++n)

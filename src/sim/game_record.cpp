@@ -1,4 +1,5 @@
 // The game's running record: clock texts, names, and the end of a period.
+#include "reports/html.h"
 #include "sim/game.h"
 #include "util/numbers.h"
 
@@ -17,10 +18,10 @@ std::string Ordinal(int n) {
 
 std::string OrdinalPeriod(int period) { return Ordinal(period) + " Period"; }
 
-std::string Game::PlayerName(int sd, int slot) const { return s.player(sd, slot).Name.str(); }
+std::string Game::PlayerName(int sd, int slot) const { return HtmlText(s.player(sd, slot).Name.str()); }
 std::string Game::ShortPlayerName(int sd, int slot) const { return ShortName(PlayerName(sd, slot)); }
-std::string Game::TeamName(int sd) const { return s.team(sideOf(sd).team).Name.str(); }
-std::string Game::TeamAbbrev(int sd) const { return s.team(sideOf(sd).team).Abbrev.str(); }
+std::string Game::TeamName(int sd) const { return HtmlText(s.team(sideOf(sd).team).Name.str()); }
+std::string Game::TeamAbbrev(int sd) const { return HtmlText(s.team(sideOf(sd).team).Abbrev.str()); }
 
 void Game::EndPeriod() {
   const std::size_t period = static_cast<std::size_t>(Period);

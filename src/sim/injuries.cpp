@@ -3,6 +3,7 @@
 #include <cmath>
 #include <vector>
 
+#include "reports/html.h"
 #include "league/tables.h"
 #include "league/transaction_log.h"
 #include "util/record_file.h"
@@ -16,7 +17,7 @@ constexpr int kMaxInjuryTexts = 100;
 int Draw(LeagueState& s, double n) { return 1 + static_cast<int>(std::floor(s.rnd() * n)); }
 
 std::string Tag(const LeagueState& s, int team, const Player& p) {
-  return p.Name.str() + " (" + s.team(team).Abbrev.str() + ")";
+  return HtmlText(p.Name.str() + " (" + s.team(team).Abbrev.str() + ")");
 }
 
 // A text of class c from inj.dtf, noting its record number in InjuryType.

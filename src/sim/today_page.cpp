@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "reports/html.h"
 #include "reports/page_files.h"
 #include "season/schedule_file.h"
 #include "util/dates.h"
@@ -13,7 +14,7 @@ namespace {
 
 constexpr std::size_t kNextGamesShown = 31;
 
-std::string Name(const LeagueState& s, int team) { return s.team(team).Name.str(); }
+std::string Name(const LeagueState& s, int team) { return HtmlText(s.team(team).Name.str()); }
 
 }  // namespace
 

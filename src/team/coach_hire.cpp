@@ -1,6 +1,7 @@
 #include "team/coach_hire.h"
 
 #include "league/transaction_log.h"
+#include "reports/html.h"
 #include "team/coach_file.h"
 
 namespace kvl {
@@ -18,7 +19,7 @@ void ReleaseCoach(LeagueState& s, int team) {
     old.Team = Coach::kNoTeam;
     WriteCoach(s, t.CoachRec, old);
   }
-  AppendTransaction(s, t.Name.str() + " fire Head Coach " + name + "<BR><BR>");
+  AppendTransaction(s, HtmlText(t.Name.str()) + " fire Head Coach " + HtmlText(name) + "<BR><BR>");
 }
 
 }  // namespace
@@ -32,7 +33,7 @@ void HireCoach(LeagueState& s, int team, std::size_t rec) {
   t.CoachRec = static_cast<u8>(rec);
   c.Team = CoachTeamField(team);
   WriteCoach(s, rec, c);
-  AppendTransaction(s, t.Name.str() + " hire Head Coach " + c.Name.str() + "<BR><BR>");
+  AppendTransaction(s, HtmlText(t.Name.str()) + " hire Head Coach " + HtmlText(c.Name.str()) + "<BR><BR>");
   s.Dirty = true;
 }
 

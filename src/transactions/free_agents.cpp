@@ -5,6 +5,7 @@
 #include "league/league_files.h"
 #include "league/ratings.h"
 #include "league/transaction_log.h"
+#include "reports/html.h"
 #include "transactions/database_players.h"
 #include "ui/ui.h"
 #include "util/fixed_text.h"
@@ -88,8 +89,9 @@ bool FreeAgents::cmdAdd(int team, int record, const ContractTerms& terms) {
   p.Contract = static_cast<u8>(*years);
   PlaceOnRoster(s_, 0, slot, p, NewcomerStatus(s_, 0));
   MarkUsed(s_, {record});
-  AppendTransactionAndHistory(s_, s_.team(team).Name.str() + " sign " + p.Name.str() + " to a " + NumText(*years) +
-                                      " year, " + FormatNumber(*salary, "$0,000") + " contract<BR><BR>");
+  AppendTransactionAndHistory(s_, HtmlText(s_.team(team).Name.str()) + " sign " + HtmlText(p.Name.str()) + " to a " +
+                                      NumText(*years) + " year, " + FormatNumber(*salary, "$0,000") +
+                                      " contract<BR><BR>");
   SaveTeam(s_, team, 0);
   s_.Dirty = true;
   return true;

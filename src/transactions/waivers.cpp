@@ -2,6 +2,7 @@
 
 #include "league/league_files.h"
 #include "league/transaction_log.h"
+#include "reports/html.h"
 #include "transactions/check_waivers.h"
 #include "transactions/database_players.h"
 #include "transactions/priority.h"
@@ -15,7 +16,9 @@ namespace {
 
 std::size_t At(int i) { return static_cast<std::size_t>(i); }
 
-std::string Tag(const LeagueState& s, int team) { return Condense(s.team(team).Name.str()); }
+// Log lines hold HTML: names go in escaped.
+std::string Tag(const LeagueState& s, int team) { return HtmlText(Condense(s.team(team).Name.str())); }
+std::string NameText(const FixedText<22>& name) { return HtmlText(Condense(name.str())); }
 
 u8 Scratched(u8 status) { return static_cast<u8>(status % 100 + 100); }
 
@@ -58,7 +61,7 @@ bool CheckWaivers(LeagueState& s, int side, int index, int actor) {
   RecordFile(s.swap(swp::Waivers), WaiverRecord::kSize).putRecord(wire.size() + 1, w);
   p.Status = static_cast<u8>(p.Status % 100);
   const int team = actor == kEditorActor ? s.CurTeam : actor;
-  AppendTransactionAndHistory(s, Tag(s, team) + " place " + Condense(p.Name.str()) + " on waivers<BR><BR>");
+  AppendTransactionAndHistory(s, Tag(s, team) + " place " + NameText(p.Name) + " on waivers<BR><BR>");
   return false;
 }
 
@@ -121,7 +124,7 @@ bool Waivers::cmdClaim(std::size_t record) {
   WaiverRecord w = ReadWaivers(s_).at(record - 1);
   const int from = w.Holder;
   if (!TakePlayer(w)) return false;
-  AppendTransaction(s_, Tag(s_, team_) + " claim " + Condense(w.Name.str()) + " from waivers<BR><BR>");
+  AppendTransaction(s_, Tag(s_, team_) + " claim " + NameText(w.Name) + " from waivers<BR><BR>");
   if (from != w.Owner && s_.team(from).Waived) s_.team(from).Waived = kFalse;
   // The claimant and every team below it may claim no more; those above still may.
   bool below = false;
@@ -156,7 +159,7 @@ bool Waivers::cmdRecall(std::size_t record) {
   const int from = w.Holder;
   if (!TakePlayer(w)) return false;
   Write(record, w);
-  AppendTransaction(s_, Tag(s_, team_) + " recall " + Condense(w.Name.str()) + " from waivers<BR><BR>");
+  AppendTransaction(s_, Tag(s_, team_) + " recall " + NameText(w.Name) + " from waivers<BR><BR>");
   SaveTeam(s_, team_, 0);
   SaveTeam(s_, from, 1);
   return true;

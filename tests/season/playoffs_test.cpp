@@ -32,25 +32,7 @@ Team Record(const Line& r) {
   return t;
 }
 
-TEST(TeamPoints, ByPointSystem) {
-  const Line line{10, 5, 3, 2, 4, 0, 0};  // 10 wins (2 in overtime), 4 overtime losses, 3 ties
-  struct Row {
-    u8 system;
-    bool playoffs;
-    int points;
-  } rows[] = {
-      {kClassic, false, 23}, {kModern, false, 27}, {kAmerican, false, 20},
-      {kSwedish, false, 35}, {kSwedish, true, 23},  // every system counts as Classic in the playoffs
-  };
-  for (const Row& r : rows) {
-    League l;
-    l.PointSystem = r.system;
-    l.InPlayoffs = r.playoffs ? kTrue : kFalse;
-    EXPECT_EQ(TeamPoints(l, Record(line)), r.points) << "system " << int(r.system) << " playoffs " << r.playoffs;
-  }
-}
-
-TEST(RankTeams, PointsThenWinsThenGoalDifferenceThenTeamOrder) {
+TEST(SeedOrder, PointsThenWinsThenGoalDifferenceThenTeamOrder) {
   Harness h;
   h.load(AlignedLeague({{2, 2}, {2, 2}}));
   const Line lines[] = {
@@ -66,7 +48,7 @@ TEST(RankTeams, PointsThenWinsThenGoalDifferenceThenTeamOrder) {
     Team& team = h.state.team(t);
     team.W = r.W, team.L = r.L, team.T = r.T, team.GF = r.GF, team.GA = r.GA;
   }
-  EXPECT_EQ(RankTeams(h.state), (std::vector<int>{4, 2, 0, 3, 1, 5, 6, 7}));
+  EXPECT_EQ(SeedOrder(h.state), (std::vector<int>{4, 2, 0, 3, 1, 5, 6, 7}));
 }
 
 // An eight-team league seeded from these wins (team order by default).

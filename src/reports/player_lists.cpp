@@ -1,0 +1,59 @@
+#include "reports/player_lists.h"
+
+#include "league/league_files.h"
+#include "reports/html.h"
+#include "util/numbers.h"
+
+namespace kvl {
+
+void ForEachLoadedTeam(LeagueState& s, const std::function<void(int team)>& fn) {
+  for (int t = 0; t < s.numTeams(); ++t) {
+    loadteam(s, t, 0);
+    fn(t);
+  }
+}
+
+std::vector<RosterEntry> AllPlayers(LeagueState& s) {
+  std::vector<RosterEntry> out;
+  ForEachLoadedTeam(s, [&](int t) {
+    for (int slot = 0; slot < kRosterSlots; ++slot)
+      if (!s.player(0, slot).empty()) out.push_back({t, s.player(0, slot)});
+  });
+  return out;
+}
+
+std::vector<RosterEntry> RankPlayers(const std::vector<RosterEntry>& candidates, std::size_t rows,
+                                     const Beats& beats) {
+  std::vector<RosterEntry> table;
+  for (const RosterEntry& c : candidates) {
+    auto at = std::find_if(table.begin(), table.end(), [&](const RosterEntry& r) { return beats(c, r); });
+    if (at == table.end() && table.size() >= rows) continue;
+    table.insert(at, c);
+    if (table.size() > rows) table.pop_back();
+  }
+  return table;
+}
+
+bool OutScores(int points, int gp, int goals, int rowPoints, int rowGp, int rowGoals) {
+  if (points != rowPoints) return points > rowPoints;
+  if (gp != rowGp) return gp < rowGp;
+  return goals > rowGoals;
+}
+
+bool OutScores(const Player& a, const Player& row) {
+  return OutScores(a.G + a.A, a.GP, a.G, row.G + row.A, row.GP, row.G);
+}
+
+int MinGoalieGP(const LeagueState& s) {
+  if (s.league.InPlayoffs) return s.Playoff.PlayoffRound;
+  if (s.numTeams() < 2) return 0;
+  return static_cast<int>(Int(s.league.GamesPlayed / (s.numTeams() / 2.0) * 0.4 + 0.5));
+}
+
+std::string RookieMark(const Player& p) { return p.Rookie ? "*" : " "; }
+
+std::string NameAndTeam(const LeagueState& s, const RosterEntry& e) {
+  return e.p.Name.str() + " (" + s.team(e.team).Name.str() + ")";
+}
+
+}  // namespace kvl

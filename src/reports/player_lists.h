@@ -1,0 +1,40 @@
+#pragma once
+// Players gathered from every roster for the pages that rank them, and the
+// ranked table they are put in: a candidate displaces the first row it beats
+// and pushes the rest down; on a tie the first met keeps its place.
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "league/league_state.h"
+
+namespace kvl {
+
+struct RosterEntry {
+  int team = 0;
+  Player p;
+};
+
+// Runs `fn` for each team in number order with its roster loaded in side 0.
+void ForEachLoadedTeam(LeagueState& s, const std::function<void(int team)>& fn);
+// Every named player of every team, loaded team by team into side 0.
+std::vector<RosterEntry> AllPlayers(LeagueState& s);
+
+using Beats = std::function<bool(const RosterEntry& candidate, const RosterEntry& row)>;
+// The best `rows` candidates in order.
+std::vector<RosterEntry> RankPlayers(const std::vector<RosterEntry>& candidates, std::size_t rows, const Beats& beats);
+
+// The scoring order: more points; with equal points fewer games; then more goals.
+bool OutScores(int points, int gp, int goals, int rowPoints, int rowGp, int rowGoals);
+bool OutScores(const Player& a, const Player& row);
+
+// The fewest games a goalie needs to be ranked: four tenths of the average
+// team's games, rounded; in the playoffs the round being played.
+int MinGoalieGP(const LeagueState& s);
+
+// Mark, name and team for the leaders' rows: "*" for a rookie.
+std::string RookieMark(const Player& p);
+// "<name> (<team>)", not yet escaped.
+std::string NameAndTeam(const LeagueState& s, const RosterEntry& e);
+
+}  // namespace kvl
