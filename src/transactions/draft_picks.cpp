@@ -51,6 +51,18 @@ std::string DraftPicksText(LeagueState& s, int team) {
   return out;
 }
 
+std::string PickText(const LeagueState& s, const DraftPick& p) {
+  const std::string orig = p.OrigTeam < s.numTeams() ? s.team(p.OrigTeam).Abbrev.str() : std::to_string(p.OrigTeam);
+  return fmt::format("{} Rnd {} {}", s.league.CurrentYear + p.CurrentYear + 1, p.Round + 1, orig);
+}
+
+std::vector<int> ListedPicks(const LeagueState& s, const DraftPickRecord& r) {
+  std::vector<int> out;
+  for (int i = 1; i < DraftPickRecord::kEntries && r.Pick[static_cast<std::size_t>(i)].Active; ++i)
+    if (r.Pick[static_cast<std::size_t>(i)].Round + 1 <= s.league.DraftRounds) out.push_back(i);
+  return out;
+}
+
 void SortDraftPicks(LeagueState& s, int team) {
   DraftPickRecord a = ReadDraftPicks(s, team);
   DraftPickRecord b;
