@@ -42,6 +42,7 @@ void RegisterScheduleCommands(CLI::App& app, Session& s);
 void RegisterAlignmentCommands(CLI::App& app, Session& s);
 void RegisterSeasonCommands(CLI::App& app, Session& s);
 void RegisterTransactionCommands(CLI::App& app, Session& s);
+void RegisterTradeCommands(CLI::App& app, Session& s);
 
 inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterLeagueCommands(app, s);
@@ -52,6 +53,7 @@ inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterAlignmentCommands(app, s);
   RegisterSeasonCommands(app, s);
   RegisterTransactionCommands(app, s);
+  RegisterTradeCommands(app, s);
 }
 
 // Takes the home folder's lock (refusing a second copy) and starts up.
