@@ -163,6 +163,24 @@ bool TradeOffice::RosterFits(const std::array<TradeSelection, 2>& sel) {
   return true;
 }
 
+// Prospects and picks have no limit of their own, but their records are full at 100 and 255.
+bool TradeOffice::RecordsFit(const std::array<TradeSelection, 2>& sel) {
+  for (int side = 0; side < 2; ++side) {
+    const TradeSelection& in = sel[At(1 - side)];
+    const std::size_t prospects = lstProspects(side).size() + in.prospects.size();
+    std::size_t picks = in.picks.size();
+    for (const DraftPick& p : picks_[At(side)].Pick) picks += p.Active ? 1 : 0;
+    if (prospects > kMaxProspects || picks >= DraftPickRecord::kEntries) {
+      s_.ui.tell(fmt::format("{} would end up with {} prospects and {} draft picks: the most are {} and {}.",
+                             s_.team(team(side)).Name.str(), prospects, picks, kMaxProspects,
+                             DraftPickRecord::kEntries - 1),
+                 "Trade");
+      return false;
+    }
+  }
+  return true;
+}
+
 TradeOffice::Held TradeOffice::TakeAway(int side, const TradeSelection& sel) {
   Held h;
   for (int slot : sel.players) {
@@ -238,7 +256,7 @@ std::string TradeOffice::RecordLine(int side, const TradeSelection& sel) const {
 
 bool TradeOffice::cmdExecute(const std::array<TradeSelection, 2>& sel) {
   if (team(0) == team(1)) return false;
-  if (!RosterFits(sel)) return false;
+  if (!RosterFits(sel) || !RecordsFit(sel)) return false;
   const std::array<std::string, 3> record{RecordLine(0, sel[0]), RecordLine(1, sel[1]), "<BR>"};
   std::array<Held, 2> held{TakeAway(0, sel[0]), TakeAway(1, sel[1])};
   for (int side = 0; side < 2; ++side)

@@ -66,6 +66,7 @@ class TradeOffice {
   struct Held;
   void load(int side);
   bool RosterFits(const std::array<TradeSelection, 2>& sel);
+  bool RecordsFit(const std::array<TradeSelection, 2>& sel);
   Held TakeAway(int side, const TradeSelection& sel);
   void Receive(int side, const Held& held);
   void ReceiveOthers(int side, const Held& held);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <fmt/format.h>
+
 #include <fstream>
 #include <sstream>
 
@@ -167,6 +169,21 @@ TEST_F(TradeFixture, RosterLimitIsTestedOnSideZeroFirst) {
   EXPECT_TRUE(office.cmdExecute(sel));
 }
 
+TEST_F(TradeFixture, AFullProspectListRefusesBeforeAnythingMoves) {
+  loadteam(h.state, 1, 0);
+  for (std::size_t i = 0; i < kMaxProspects; ++i) h.state.Prospects[0].Name[i].set(fmt::format("Young Prospect {:03}", i));
+  SaveTeam(h.state, 1, 0);
+  TradeOffice office(h.state, 0, 1);
+  std::array<TradeSelection, 2> sel;
+  sel[0].players = {0};
+  sel[0].prospects = {0};
+  EXPECT_FALSE(office.cmdExecute(sel));
+  EXPECT_TRUE(h.ui.told("Team1 would end up with 101 prospects and 54 draft picks: the most are 100 and 255.", "Trade"));
+  loadteam(h.state, 0, 0);
+  EXPECT_FALSE(h.state.player(0, 0).empty());
+  EXPECT_EQ(h.state.Prospects[0].Name[0].str(), "Prospect 0");
+}
+
 TEST_F(TradeFixture, ExecutionMovesEverythingAndWritesTheRecord) {
   TradeOffice office(h.state, 0, 1);
   const std::size_t size0 = office.lstPlayers(0).size(), size1 = office.lstPlayers(1).size();
@@ -210,6 +227,42 @@ TEST_F(TradeFixture, SameTeamOnBothSidesDoesNothing) {
   EXPECT_TRUE(h.ui.calls().empty());
   loadteam(h.state, 2, 0);
   EXPECT_FALSE(h.state.player(0, 0).empty());
+}
+
+TEST_F(TradeFixture, LinesFilesGoWithProPlayersAndFuturesFollowThePlayer) {
+  const auto lns = [&](int t) { return h.state.AppPath / (h.state.LeagueShort + std::to_string(t) + ".lns"); };
+  for (int t = 0; t < 2; ++t) {
+    std::ofstream(lns(t)) << "lines";
+    h.state.team(t).LinesOK = kTrue;
+  }
+  ContractFuture future;
+  future.Value[0] = 7;
+  future.OwnerTeam[0][0] = 0;
+  future.OwnerTeam[1][0] = 3;
+  future.Amount[4][0] = 5000;
+  RecordFile(h.state.swap(swp::Futures), ContractFuture::kSize).putRecord(1, future);
+  RecordFile(h.state.swap(swp::Futures), ContractFuture::kSize).putRecord(2, ContractFuture{});
+  loadteam(h.state, 0, 0);
+  h.state.player(0, 0).Contract = 0;  // his future is in the file
+  SaveTeam(h.state, 0, 0);
+
+  TradeOffice office(h.state, 0, 1);
+  const int minor = office.lstPlayers(1).back().index;
+  ASSERT_EQ(h.state.player(1, minor).Status, 0);
+  std::array<TradeSelection, 2> sel;
+  sel[0].players = {0};
+  sel[1].players = {minor};
+  ASSERT_TRUE(office.cmdExecute(sel));
+  EXPECT_FALSE(fs::exists(lns(0))) << "team 0 lost a pro player";
+  EXPECT_TRUE(fs::exists(lns(1))) << "a minor leaguer's team keeps its lines file";
+  EXPECT_EQ(h.state.team(0).LinesOK, 0);
+  EXPECT_EQ(h.state.team(1).LinesOK, 0);
+  // He took the minor leaguer's freed slot.
+  const ContractFuture moved = RecordFile(h.state.swap(swp::Futures), ContractFuture::kSize).getRecord<ContractFuture>(2);
+  EXPECT_EQ(moved.Value[static_cast<std::size_t>(minor)], 7);
+  EXPECT_EQ(moved.OwnerTeam[0][static_cast<std::size_t>(minor)], 1) << "the old team becomes the new";
+  EXPECT_EQ(moved.OwnerTeam[1][static_cast<std::size_t>(minor)], 3) << "another team's entry stays";
+  EXPECT_EQ(moved.Amount[4][static_cast<std::size_t>(minor)], 5000);
 }
 
 std::vector<CareerRecord> Career(LeagueState& s) {
