@@ -135,6 +135,23 @@ bool TradeOffice::EnterCash(int side, const std::string& answer) {
   return true;
 }
 
+bool TradeOffice::Holds(const std::array<TradeSelection, 2>& sel) {
+  for (int side = 0; side < 2; ++side) {
+    const TradeSelection& mine = sel[At(side)];
+    auto missing = [&](const char* what, int index) {
+      s_.ui.tell(fmt::format("{} holds no {} at {} to trade.", s_.team(team(side)).Name.str(), what, index), "Trade");
+      return false;
+    };
+    for (int slot : mine.players)
+      if (slot < 0 || slot >= kRosterSlots || s_.player(side, slot).empty()) return missing("player", slot);
+    for (int i : mine.prospects)
+      if (i < 0 || i >= kMaxProspects || s_.Prospects[At(side)].Name[At(i)].empty()) return missing("prospect", i);
+    for (int i : mine.picks)
+      if (i < 1 || i >= DraftPickRecord::kEntries || !picks_[At(side)].Pick[At(i)].Active) return missing("pick", i);
+  }
+  return true;
+}
+
 double TradeOffice::SideValue(int side, const TradeSelection& sel) const {
   double v = 0;
   for (int slot : sel.players) v += PlayerTradeValue(s_.player(side, slot));
@@ -144,6 +161,7 @@ double TradeOffice::SideValue(int side, const TradeSelection& sel) const {
 }
 
 std::string TradeOffice::cmdAssess(const std::array<TradeSelection, 2>& sel) {
+  if (!Holds(sel)) return "";
   const double v0 = SideValue(0, sel[0]), v1 = SideValue(1, sel[1]);
   const std::string text = std::abs(v0 - v1) < 200
                                ? std::string("Trade is even")
@@ -256,7 +274,7 @@ std::string TradeOffice::RecordLine(int side, const TradeSelection& sel) const {
 
 bool TradeOffice::cmdExecute(const std::array<TradeSelection, 2>& sel) {
   if (team(0) == team(1)) return false;
-  if (!RosterFits(sel) || !RecordsFit(sel)) return false;
+  if (!Holds(sel) || !RosterFits(sel) || !RecordsFit(sel)) return false;
   const std::array<std::string, 3> record{RecordLine(0, sel[0]), RecordLine(1, sel[1]), "<BR>"};
   std::array<Held, 2> held{TakeAway(0, sel[0]), TakeAway(1, sel[1])};
   for (int side = 0; side < 2; ++side)

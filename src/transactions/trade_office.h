@@ -57,7 +57,8 @@ class TradeOffice {
 
   // Adds up what a side gives away.
   double SideValue(int side, const TradeSelection& sel) const;
-  // Tells the judgement and returns its text.
+  // Tells the judgement and returns its text; "" (after telling) when a side
+  // does not hold what is selected.
   std::string cmdAssess(const std::array<TradeSelection, 2>& sel);
   // Checks the roster limit and carries out the trade; false when refused.
   bool cmdExecute(const std::array<TradeSelection, 2>& sel);
@@ -65,6 +66,7 @@ class TradeOffice {
  private:
   struct Held;
   void load(int side);
+  bool Holds(const std::array<TradeSelection, 2>& sel);
   bool RosterFits(const std::array<TradeSelection, 2>& sel);
   bool RecordsFit(const std::array<TradeSelection, 2>& sel);
   Held TakeAway(int side, const TradeSelection& sel);

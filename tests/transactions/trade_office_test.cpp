@@ -58,7 +58,9 @@ TEST(TradeValue, PicksFallByRoundAndYear) {
 
 TEST(TradeValue, PlayersByAgeRatingAndSalary) {
   Player base = test::MakePlayer("Base Player", kCentre, 60);
-  ASSERT_GE(Overall(base), 25);
+  ASSERT_EQ(Overall(base), 65);
+  // 6.5^4.7 + 15^2 + 2 x (100 + 40^2.72 / 100 + 180 - 500)
+  EXPECT_NEAR(PlayerTradeValue(base), 6858.134, 0.001);
   auto with = [&](int age, i32 salary) {
     Player p = base;
     p.Age = static_cast<u8>(age);
@@ -217,6 +219,22 @@ TEST_F(TradeFixture, ExecutionMovesEverythingAndWritesTheRecord) {
                            ", Prospect 0, 2027 Rnd 2 T00, $250,000<BR>\r\nTo Team0: " + b0.Name.str() + "<BR>\r\n<BR>\r\n";
   EXPECT_EQ(Log(swp::Transactions), text);
   EXPECT_EQ(Log(swp::History), text);
+}
+
+TEST_F(TradeFixture, WhatASideDoesNotHoldIsNamedAndNothingMoves) {
+  TradeOffice office(h.state, 0, 1);
+  struct Row { TradeSelection sel; const char* told; };
+  const Row rows[] = {
+      {{{40}, {}, {}}, "Team0 holds no player at 40 to trade."},
+      {{{}, {3}, {}}, "Team0 holds no prospect at 3 to trade."},
+      {{{}, {}, {60}}, "Team0 holds no pick at 60 to trade."},
+  };
+  for (const Row& r : rows) {
+    EXPECT_FALSE(office.cmdExecute({r.sel, TradeSelection{}}));
+    EXPECT_TRUE(h.ui.told(r.told, "Trade")) << r.told;
+    EXPECT_EQ(office.cmdAssess({r.sel, TradeSelection{}}), "");
+  }
+  EXPECT_EQ(office.lstPlayers(0).size(), 24u);
 }
 
 TEST_F(TradeFixture, SameTeamOnBothSidesDoesNothing) {
