@@ -10,7 +10,6 @@
 #include "league/tables.h"
 #include "session.h"
 #include "transactions/draft_pick_editor.h"
-#include "transactions/draft_picks.h"
 #include "transactions/trade_office.h"
 #include "ui/ui.h"
 #include "util/error.h"
@@ -142,7 +141,10 @@ void RunEditDraftPicks(Session& s, const PickArgs& a) {
   for (int i : ChooseAll(s, listed, a.remove, s.state.team(team).Name.str(), "pick")) form.cmdRemove(i);
   for (const std::string& text : a.add) AddPick(s, form, text);
   form.cmdExit();
-  s.ui.print(DraftPicksText(s.state, team));
+  std::string text = "Draft picks of " + s.state.team(team).Name.str() + "\n";
+  for (const DraftPickEditor::Entry& e : DraftPickEditor(s.state, team).list())
+    text += fmt::format("{:>4}  {}\n", e.index, e.text);
+  s.ui.print(text);
 }
 
 void RegisterEditDraftPicks(CLI::App& app, Session& s) {

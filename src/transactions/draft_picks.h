@@ -19,9 +19,6 @@ void MakeDraftPicks(LeagueState& s);
 void SortDraftPicks(LeagueState& s, int team);
 
 DraftPickRecord ReadDraftPicks(LeagueState& s, int team);
-// The team's active picks as the Edit Draft Picks view lists them: the draft
-// (0 the coming one), the round from 1, and the team the pick was made for.
-std::string DraftPicksText(LeagueState& s, int team);
 void WriteDraftPicks(LeagueState& s, int team, const DraftPickRecord& picks);
 
 // A pick as the lists show it: the draft's year, " Rnd ", the round from 1 and

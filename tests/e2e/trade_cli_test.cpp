@@ -142,5 +142,18 @@ TEST_F(TradeCli, AfterTheDeadlineNothingIsTraded) {
   EXPECT_EQ(Run({"trade-workshop", "0", "1", "--a-player", "0"}).status, 0) << "the workshop judges at any time";
 }
 
+TEST_F(TradeCli, EditedPicksAreKeptInOrderAndListedByTheOffice) {
+  const std::string pick = FirstRoundPick(Run({"trade", "0"}).out);
+  const std::string other =
+      pick.substr(0, pick.rfind(' ')) + " " + FirstRoundPick(Run({"trade", "1"}).out).substr(pick.rfind(' ') + 1);
+  ASSERT_NE(pick, other);
+  const test::ProgramRun edit = Run({"--yes", "edit-draft-picks", "0", "--remove", pick, "--add", other});
+  ASSERT_EQ(edit.status, 0) << edit.out << edit.err;
+  EXPECT_TRUE(Has(edit.out, "   1  " + other + "\n")) << edit.out;
+  EXPECT_FALSE(Has(Run({"trade", "0"}).out, pick));
+  EXPECT_EQ(Run({"--yes", "edit-draft-picks", "0", "--add", "2 Rnd 10 " + other.substr(other.rfind(' ') + 1)}).status,
+            1);
+}
+
 }  // namespace
 }  // namespace kvl
