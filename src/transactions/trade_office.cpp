@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <cmath>
+#include <limits>
 
 #include "league/league_files.h"
 #include "league/transaction_log.h"
@@ -115,11 +116,13 @@ bool TradeOffice::EnterCash(int side, const std::string& answer) {
   }
   std::string digits = answer[0] == '$' ? answer.substr(1) : answer;
   std::erase(digits, ',');
-  if (digits.empty() || digits.find_first_not_of("0123456789.") != std::string::npos) {
+  double amount = std::round(Val(digits));
+  // Money is a 32-bit sum; anything else cannot be paid.
+  if (digits.empty() || digits.find_first_not_of("0123456789.") != std::string::npos ||
+      amount > std::numeric_limits<i32>::max()) {
     s_.ui.tell(fmt::format("Cash from {}: \"{}\" is not a sum of money.", t.Name.str(), answer), "Include Cash");
     return false;
   }
-  double amount = std::round(Val(digits));
   if (amount > t.CurFin) {
     const std::string head = t.Name.str() + "\nhas only $" + NumText(t.CurFin) + " in its current account.\n";
     if (t.CurFin < 0) {

@@ -146,6 +146,8 @@ TEST_F(TradeFixture, CashEntryRefusesNegativeAndCutsToTheBalance) {
   EXPECT_TRUE(h.ui.told("You cannot trade negative cash!", "Invalid Cash Value"));
   EXPECT_FALSE(office.EnterCash(0, "$-5"));
   EXPECT_FALSE(office.EnterCash(0, "lots"));
+  EXPECT_TRUE(h.ui.told("Cash from Team0: \"lots\" is not a sum of money.", "Include Cash"));
+  EXPECT_FALSE(office.EnterCash(0, "3000000000"));
   EXPECT_EQ(office.txtCash(0), "0");
   EXPECT_TRUE(office.EnterCash(0, "2000000"));
   EXPECT_EQ(office.txtCash(0), "$1,000,000");
