@@ -9,7 +9,6 @@
 #include "league/league_files.h"
 #include "league/tables.h"
 #include "session.h"
-#include "transactions/draft_picks.h"
 #include "transactions/unused_players.h"
 #include "util/cp1252.h"
 #include "util/error.h"
@@ -89,14 +88,6 @@ void RegisterAssignUnused(CLI::App& app, Session& s) {
   cmd->add_flag("--auto", o->autoFill, "every team takes players in turns until it holds a full club");
 }
 
-void RegisterEditDraftPicks(CLI::App& app, Session& s) {
-  auto team = std::make_shared<std::string>();
-  AddCommand(app, s, "edit-draft-picks", "Show a team's draft picks", true,
-             [&s, team] { s.ui.print(DraftPicksText(s.state, ResolveTeam(s.state, *team))); })
-      ->add_option("TEAM", *team, "the team, by number or name")
-      ->required();
-}
-
 struct DemoArgs {
   int teams = 24;
   std::optional<std::uint64_t> seed;
@@ -129,7 +120,6 @@ void RegisterAdminCommands(CLI::App& app, Session& s) {
   RegisterNew(app, s);
   RegisterMakeDefaultData(app, s);
   RegisterAssignUnused(app, s);
-  RegisterEditDraftPicks(app, s);
   RegisterDemo(app, s);
 }
 

@@ -43,6 +43,7 @@ void RegisterAlignmentCommands(CLI::App& app, Session& s);
 void RegisterSeasonCommands(CLI::App& app, Session& s);
 void RegisterTransactionCommands(CLI::App& app, Session& s);
 void RegisterReportCommands(CLI::App& app, Session& s);
+void RegisterTradeCommands(CLI::App& app, Session& s);
 
 inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterLeagueCommands(app, s);
@@ -54,6 +55,7 @@ inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterSeasonCommands(app, s);
   RegisterTransactionCommands(app, s);
   RegisterReportCommands(app, s);
+  RegisterTradeCommands(app, s);
 }
 
 // Takes the home folder's lock (refusing a second copy) and starts up.

@@ -36,18 +36,15 @@ void WriteDraftPicks(LeagueState& s, int team, const DraftPickRecord& picks) {
   RecordFile(s.swap(swp::Picks), DraftPickRecord::kSize).putRecord(static_cast<std::size_t>(team) + 1, picks);
 }
 
-std::string DraftPicksText(LeagueState& s, int team) {
-  DraftPickRecord r = ReadDraftPicks(s, team);
-  std::string out = "Draft picks of " + s.team(team).Name.str() + "\n  Draft  Round  Made for\n";
-  int shown = 0;
-  for (std::size_t i = 1; i < DraftPickRecord::kEntries; ++i) {
-    const DraftPick& p = r.Pick[i];
-    if (!p.Active) continue;
-    std::string madeFor = p.OrigTeam < s.numTeams() ? s.team(p.OrigTeam).Name.str() : fmt::format("team {}", p.OrigTeam);
-    out += fmt::format("  +{:<5} {:<6} {}\n", p.CurrentYear, p.Round + 1, madeFor);
-    ++shown;
-  }
-  if (shown == 0) out += "  (none)\n";
+std::string PickText(const LeagueState& s, const DraftPick& p) {
+  const std::string orig = p.OrigTeam < s.numTeams() ? s.team(p.OrigTeam).Abbrev.str() : std::to_string(p.OrigTeam);
+  return fmt::format("{} Rnd {} {}", s.league.CurrentYear + p.CurrentYear + 1, p.Round + 1, orig);
+}
+
+std::vector<int> ListedPicks(const LeagueState& s, const DraftPickRecord& r) {
+  std::vector<int> out;
+  for (int i = 1; i < DraftPickRecord::kEntries && r.Pick[static_cast<std::size_t>(i)].Active; ++i)
+    if (r.Pick[static_cast<std::size_t>(i)].Round + 1 <= s.league.DraftRounds) out.push_back(i);
   return out;
 }
 

@@ -2,6 +2,7 @@
 // Draft picks (.dpk): each team's record holds its picks for the next six
 // drafts, entries 1 to 255, each knowing the team it was made for and the owner.
 #include <string>
+#include <vector>
 
 #include "league/league_state.h"
 
@@ -18,9 +19,13 @@ void MakeDraftPicks(LeagueState& s);
 void SortDraftPicks(LeagueState& s, int team);
 
 DraftPickRecord ReadDraftPicks(LeagueState& s, int team);
-// The team's active picks as the Edit Draft Picks view lists them: the draft
-// (0 the coming one), the round from 1, and the team the pick was made for.
-std::string DraftPicksText(LeagueState& s, int team);
 void WriteDraftPicks(LeagueState& s, int team, const DraftPickRecord& picks);
+
+// A pick as the lists show it: the draft's year, " Rnd ", the round from 1 and
+// the abbreviation of the team it was made for ("2027 Rnd 1 BOS").
+std::string PickText(const LeagueState& s, const DraftPick& p);
+// The places (from 1) of the listed picks: up to the first entry not in use,
+// leaving out rounds beyond DraftRounds, which stay in the record.
+std::vector<int> ListedPicks(const LeagueState& s, const DraftPickRecord& r);
 
 }  // namespace kvl

@@ -1,0 +1,346 @@
+#include <gtest/gtest.h>
+
+#include <fmt/format.h>
+
+#include <fstream>
+#include <sstream>
+
+#include "league/league_files.h"
+#include "league/ratings.h"
+#include "support/league_fixture.h"
+#include "transactions/draft_picks.h"
+#include "transactions/trade_office.h"
+#include "util/error.h"
+#include "util/record_file.h"
+
+namespace kvl {
+namespace {
+
+struct DeadlineCase {
+  bool scheduleMade, seasonOver;
+  int deadline, played, games;
+  bool passed;
+};
+
+TEST(TradeDeadline, ComparesTheShareOfGamesPlayedWithTheDeadline) {
+  const DeadlineCase cases[] = {
+      {false, false, 80, 900, 1000, false},  // without a schedule trading is open
+      {false, true, 80, 0, 1000, false},     // the season-over flag counts only with a schedule
+      {true, false, 80, 800, 1000, false},   // the last day allowed: equal fractions
+      {true, false, 80, 801, 1000, true},
+      {true, false, 50, 41, 82, false},      // 41/82 is exactly one half
+      {true, false, 49, 41, 82, true},
+      {true, true, 100, 0, 1000, true},
+      {true, false, 0, 1, 1000, true},
+  };
+  for (const DeadlineCase& c : cases) {
+    League lg;
+    lg.ScheduleMade = c.scheduleMade ? kTrue : 0;
+    lg.SeasonOver = c.seasonOver ? kTrue : 0;
+    lg.TradeDeadline = static_cast<u8>(c.deadline);
+    lg.GamesPlayed = static_cast<i16>(c.played);
+    lg.LeagueGames = static_cast<i16>(c.games);
+    EXPECT_EQ(TradeDeadlinePassed(lg), c.passed) << c.deadline << "% at " << c.played << "/" << c.games;
+  }
+}
+
+TEST(TradeValue, PicksFallByRoundAndYear) {
+  struct Row { int round, year; double value; };
+  const Row rows[] = {{0, 0, 5000}, {0, 1, 4500}, {1, 0, 3333}, {1, 1, 3000},
+                      {2, 0, 2305}, {2, 1, 2075}, {3, 0, 1646}, {3, 1, 1482}};
+  for (const Row& r : rows) {
+    DraftPick p;
+    p.Round = static_cast<u8>(r.round);
+    p.CurrentYear = static_cast<u8>(r.year);
+    EXPECT_NEAR(PickTradeValue(p), r.value, 1.0) << "round " << r.round + 1 << " year " << r.year;
+  }
+}
+
+TEST(TradeValue, PlayersByAgeRatingAndSalary) {
+  Player base = test::MakePlayer("Base Player", kCentre, 60);
+  ASSERT_EQ(Overall(base), 65);
+  // 6.5^4.7 + 15^2 + 2 x (100 + 40^2.72 / 100 + 180 - 500)
+  EXPECT_NEAR(PlayerTradeValue(base), 6858.134, 0.001);
+  auto with = [&](int age, i32 salary) {
+    Player p = base;
+    p.Age = static_cast<u8>(age);
+    p.Salary = salary;
+    return PlayerTradeValue(p);
+  };
+  // The age term is squared: 30 and 50 are worth the same, 40 least.
+  EXPECT_DOUBLE_EQ(with(30, 500000), with(50, 500000));
+  EXPECT_NEAR(with(30, 500000) - with(40, 500000), 100.0, 1e-9);
+  // Each thousand dollars of salary costs two points.
+  EXPECT_NEAR(with(25, 500000) - with(25, 501000), 2.0, 1e-9);
+  Player better = base;
+  for (int i = 0; i < 13; ++i) better.rating(i) = 80;
+  EXPECT_GT(PlayerTradeValue(better), PlayerTradeValue(base));
+  Player weak = base;
+  for (int i = 0; i < 13; ++i) weak.rating(i) = 5;
+  ASSERT_LT(Overall(weak), 25);
+  EXPECT_THROW(PlayerTradeValue(weak), KvlError);
+}
+
+TEST(TradeValue, CashAsTheListShowsIt) {
+  struct Row { const char* text; i32 amount; };
+  const Row rows[] = {{"0", 0}, {"", 0}, {"$0", 0}, {"$1,500", 1500}, {"$2,345,678", 2345678}};
+  for (const Row& r : rows) EXPECT_EQ(CashShown(r.text), r.amount) << r.text;
+}
+
+// A standard league of four with picks, prospects and money; office on teams 0 and 1.
+struct TradeFixture : ::testing::Test {
+  test::Harness h;
+  void SetUp() override {
+    test::LeaguePlan plan = test::StandardLeague(4);
+    plan.header.DraftRounds = 3;
+    plan.header.CurrentYear = 2026;
+    for (auto& t : plan.teams) t.CurFin = 1000000;
+    h.load(plan);
+    MakeDraftPicks(h.state);
+    for (int t = 0; t < 2; ++t) {
+      loadteam(h.state, t, 0);
+      h.state.Prospects[0].Name[0].set("Prospect " + std::to_string(t));
+      h.state.Prospects[0].Age[0] = 18;
+      SaveTeam(h.state, t, 0);
+    }
+  }
+  std::string Log(const char* name) {
+    std::ifstream in(h.state.swap(name));
+    std::stringstream ss;
+    ss << in.rdbuf();
+    return ss.str();
+  }
+};
+
+TEST_F(TradeFixture, JudgementNamesTheSideThatGivesLess) {
+  TradeOffice office(h.state, 0, 1);
+  const std::vector<TradeListEntry> picks = office.lstPicks(0);
+  ASSERT_EQ(picks.front().text, "2027 Rnd 1 T00");
+  std::array<TradeSelection, 2> sel;
+  sel[0].picks = {picks.front().index};  // 5000 for nothing
+  EXPECT_EQ(office.cmdAssess(sel), "Trade favours the Team1");
+  sel[1].prospects = {0};
+  ASSERT_TRUE(office.EnterCash(1, "325000"));  // 1750 + 3250 = 5000
+  EXPECT_EQ(office.cmdAssess(sel), "Trade is even");
+  ASSERT_TRUE(office.EnterCash(1, "$345,000"));  // exactly 200 more
+  EXPECT_EQ(office.cmdAssess(sel), "Trade favours the Team0");
+}
+
+TEST_F(TradeFixture, PicksBeyondTheDraftRoundsAreHiddenButKept) {
+  TradeOffice office(h.state, 0, 1);
+  EXPECT_EQ(office.lstPicks(0).size(), 6u * 3u);
+  std::array<TradeSelection, 2> sel;
+  sel[0].picks = {office.lstPicks(0).front().index};
+  ASSERT_TRUE(office.cmdExecute(sel));
+  int active = 0;
+  for (const DraftPick& p : ReadDraftPicks(h.state, 0).Pick) active += p.Active ? 1 : 0;
+  EXPECT_EQ(active, 53);
+  EXPECT_EQ(office.lstPicks(1).size(), 6u * 3u + 1u);
+  EXPECT_EQ(office.lstPicks(1)[1].text, "2027 Rnd 1 T00");
+  EXPECT_EQ(ReadDraftPicks(h.state, 1).Pick[2].Owner, 1) << "the owner byte holds the receiving side";
+}
+
+TEST_F(TradeFixture, CashEntryRefusesNegativeAndCutsToTheBalance) {
+  TradeOffice office(h.state, 0, 1);
+  EXPECT_FALSE(office.EnterCash(0, "-5"));
+  EXPECT_TRUE(h.ui.told("You cannot trade negative cash!", "Invalid Cash Value"));
+  EXPECT_FALSE(office.EnterCash(0, "$-5"));
+  EXPECT_FALSE(office.EnterCash(0, "lots"));
+  EXPECT_TRUE(h.ui.told("Cash from Team0: \"lots\" is not a sum of money.", "Include Cash"));
+  EXPECT_FALSE(office.EnterCash(0, "3000000000"));
+  EXPECT_EQ(office.txtCash(0), "0");
+  EXPECT_TRUE(office.EnterCash(0, "2000000"));
+  EXPECT_EQ(office.txtCash(0), "$1,000,000");
+  EXPECT_TRUE(h.ui.told("Team0\nhas only $1000000 in its current account.\nThey can only trade that amount.",
+                        "Not Enough Cash"));
+}
+
+TEST_F(TradeFixture, RosterLimitIsTestedOnSideZeroFirst) {
+  for (int t = 0; t < 2; ++t) {
+    loadteam(h.state, t, 0);
+    for (int slot = 0; slot < kRosterSlots; ++slot)
+      if (h.state.player(0, slot).empty()) h.state.player(0, slot) = test::MakePlayer("Filler " + std::to_string(slot), kDefence, 40, 0);
+    SaveTeam(h.state, t, 0);
+  }
+  TradeOffice office(h.state, 0, 1);
+  std::array<TradeSelection, 2> sel;
+  sel[0].players = {0};
+  sel[1].players = {0, 1};
+  EXPECT_FALSE(office.cmdExecute(sel));
+  EXPECT_TRUE(h.ui.told("Team0 will end up with too many players", "Too many players"));
+  EXPECT_FALSE(h.ui.told("Team1 will end up with too many players", "Too many players"));
+  sel[1].players = {0};
+  EXPECT_TRUE(office.cmdExecute(sel));
+}
+
+TEST_F(TradeFixture, AFullProspectListRefusesBeforeAnythingMoves) {
+  loadteam(h.state, 1, 0);
+  for (std::size_t i = 0; i < kMaxProspects; ++i) h.state.Prospects[0].Name[i].set(fmt::format("Young Prospect {:03}", i));
+  SaveTeam(h.state, 1, 0);
+  TradeOffice office(h.state, 0, 1);
+  std::array<TradeSelection, 2> sel;
+  sel[0].players = {0};
+  sel[0].prospects = {0};
+  EXPECT_FALSE(office.cmdExecute(sel));
+  EXPECT_TRUE(h.ui.told("Team1 would end up with 101 prospects and 54 draft picks: the most are 100 and 255.", "Trade"));
+  loadteam(h.state, 0, 0);
+  EXPECT_FALSE(h.state.player(0, 0).empty());
+  EXPECT_EQ(h.state.Prospects[0].Name[0].str(), "Prospect 0");
+}
+
+TEST_F(TradeFixture, ExecutionMovesEverythingAndWritesTheRecord) {
+  TradeOffice office(h.state, 0, 1);
+  const std::size_t size0 = office.lstPlayers(0).size(), size1 = office.lstPlayers(1).size();
+  const Player a0 = h.state.player(0, 0), a1 = h.state.player(0, 21), b0 = h.state.player(1, 3);
+  std::array<TradeSelection, 2> sel;
+  sel[0].players = {0, 21};
+  sel[0].prospects = {0};
+  sel[0].picks = {office.lstPicks(0)[1].index};
+  sel[1].players = {3};
+  ASSERT_TRUE(office.EnterCash(0, "250000"));
+  ASSERT_TRUE(office.cmdExecute(sel));
+  auto names = [&](int side) {
+    std::vector<std::string> v;
+    for (const TradeListEntry& e : office.lstPlayers(side)) v.push_back(e.text);
+    return v;
+  };
+  const auto side0 = names(0), side1 = names(1);
+  EXPECT_EQ(std::count(side1.begin(), side1.end(), a0.Name.str()), 1);
+  EXPECT_EQ(std::count(side1.begin(), side1.end(), a1.Name.str()), 1);
+  EXPECT_EQ(std::count(side0.begin(), side0.end(), b0.Name.str()), 1);
+  EXPECT_EQ(side0.size(), size0 - 1);
+  EXPECT_EQ(side1.size(), size1 + 1);
+  EXPECT_EQ(h.state.team(0).CurFin, 750000);
+  EXPECT_EQ(h.state.team(1).CurFin, 1250000);
+  EXPECT_EQ(h.state.team(0).LinesOK, 0);
+  EXPECT_EQ(office.lstProspects(1).size(), 2u);
+  EXPECT_TRUE(office.lstProspects(0).empty());
+  EXPECT_EQ(office.txtCash(0), "0");
+  EXPECT_TRUE(h.state.Dirty);
+  const std::string text = "To Team1: " + a0.Name.str() + ", " + a1.Name.str() +
+                           ", Prospect 0, 2027 Rnd 2 T00, $250,000<BR>\r\nTo Team0: " + b0.Name.str() + "<BR>\r\n<BR>\r\n";
+  EXPECT_EQ(Log(swp::Transactions), text);
+  EXPECT_EQ(Log(swp::History), text);
+}
+
+TEST_F(TradeFixture, WhatASideDoesNotHoldIsNamedAndNothingMoves) {
+  TradeOffice office(h.state, 0, 1);
+  struct Row { TradeSelection sel; const char* told; };
+  const Row rows[] = {
+      {{{40}, {}, {}}, "Team0 holds no player at 40 to trade."},
+      {{{}, {3}, {}}, "Team0 holds no prospect at 3 to trade."},
+      {{{}, {}, {60}}, "Team0 holds no pick at 60 to trade."},
+  };
+  for (const Row& r : rows) {
+    EXPECT_FALSE(office.cmdExecute({r.sel, TradeSelection{}}));
+    EXPECT_TRUE(h.ui.told(r.told, "Trade")) << r.told;
+    EXPECT_EQ(office.cmdAssess({r.sel, TradeSelection{}}), "");
+  }
+  EXPECT_EQ(office.lstPlayers(0).size(), 24u);
+}
+
+TEST_F(TradeFixture, SameTeamOnBothSidesDoesNothing) {
+  TradeOffice office(h.state, 2, 2);
+  std::array<TradeSelection, 2> sel;
+  sel[0].players = {0};
+  EXPECT_FALSE(office.cmdExecute(sel));
+  EXPECT_TRUE(h.ui.calls().empty());
+  loadteam(h.state, 2, 0);
+  EXPECT_FALSE(h.state.player(0, 0).empty());
+}
+
+TEST_F(TradeFixture, LinesFilesGoWithProPlayersAndFuturesFollowThePlayer) {
+  const auto lns = [&](int t) { return h.state.AppPath / (h.state.LeagueShort + std::to_string(t) + ".lns"); };
+  for (int t = 0; t < 2; ++t) {
+    std::ofstream(lns(t)) << "lines";
+    h.state.team(t).LinesOK = kTrue;
+  }
+  ContractFuture future;
+  future.Value[0] = 7;
+  future.OwnerTeam[0][0] = 0;
+  future.OwnerTeam[1][0] = 3;
+  future.Amount[4][0] = 5000;
+  RecordFile(h.state.swap(swp::Futures), ContractFuture::kSize).putRecord(1, future);
+  RecordFile(h.state.swap(swp::Futures), ContractFuture::kSize).putRecord(2, ContractFuture{});
+  loadteam(h.state, 0, 0);
+  h.state.player(0, 0).Contract = 0;  // his future is in the file
+  SaveTeam(h.state, 0, 0);
+
+  TradeOffice office(h.state, 0, 1);
+  const int minor = office.lstPlayers(1).back().index;
+  ASSERT_EQ(h.state.player(1, minor).Status, 0);
+  std::array<TradeSelection, 2> sel;
+  sel[0].players = {0};
+  sel[1].players = {minor};
+  ASSERT_TRUE(office.cmdExecute(sel));
+  EXPECT_FALSE(fs::exists(lns(0))) << "team 0 lost a pro player";
+  EXPECT_TRUE(fs::exists(lns(1))) << "a minor leaguer's team keeps its lines file";
+  EXPECT_EQ(h.state.team(0).LinesOK, 0);
+  EXPECT_EQ(h.state.team(1).LinesOK, 0);
+  // He took the minor leaguer's freed slot.
+  const ContractFuture moved = RecordFile(h.state.swap(swp::Futures), ContractFuture::kSize).getRecord<ContractFuture>(2);
+  EXPECT_EQ(moved.Value[static_cast<std::size_t>(minor)], 7);
+  EXPECT_EQ(moved.OwnerTeam[0][static_cast<std::size_t>(minor)], 1) << "the old team becomes the new";
+  EXPECT_EQ(moved.OwnerTeam[1][static_cast<std::size_t>(minor)], 3) << "another team's entry stays";
+  EXPECT_EQ(moved.Amount[4][static_cast<std::size_t>(minor)], 5000);
+}
+
+std::vector<CareerRecord> Career(LeagueState& s) {
+  RecordFile f(s.swap(swp::Career), CareerRecord::kSize);
+  std::vector<CareerRecord> v;
+  for (std::size_t n = 1; n <= f.count(); ++n) v.push_back(f.getRecord<CareerRecord>(n));
+  return v;
+}
+
+TEST_F(TradeFixture, TradeSplitKeepsEachTeamsShareOfTheSeason) {
+  Player p = test::MakePlayer("Much Traveled", kCentre, 60);
+  p.GP = 30; p.G = 10; p.Hits = 40; p.Plus = -3;
+  CareerRecord first{2, p};
+  first.P.GP = 12; first.P.G = 4; first.P.Hits = 15; first.P.Plus = 2;
+  CareerRecord other{3, test::MakePlayer("Someone Else", kCentre, 60)};
+  other.P.GP = 50;
+  {
+    RecordFile f(h.state.swap(swp::Career), CareerRecord::kSize);
+    f.putRecord(1, first);
+    f.putRecord(2, other);
+  }
+  TradeSplit(h.state, p, 1);  // leaves team 1: 18 games there, a new line
+  std::vector<CareerRecord> v = Career(h.state);
+  ASSERT_EQ(v.size(), 3u);
+  EXPECT_EQ(v[2].Team, 1);
+  EXPECT_EQ(v[2].P.GP, 18); EXPECT_EQ(v[2].P.G, 6); EXPECT_EQ(v[2].P.Hits, 25); EXPECT_EQ(v[2].P.Plus, -5);
+  p.GP = 35; p.G = 11;
+  TradeSplit(h.state, p, 2);  // back at team 2 for 5 more: added to its line in place
+  v = Career(h.state);
+  ASSERT_EQ(v.size(), 3u);
+  EXPECT_EQ(v[0].P.GP, 17); EXPECT_EQ(v[0].P.G, 5);
+  EXPECT_EQ(v[1].P.GP, 50) << "another player's line is untouched";
+  Player fresh = test::MakePlayer("No Games Yet", kCentre, 60);
+  TradeSplit(h.state, fresh, 0);
+  EXPECT_EQ(Career(h.state).size(), 3u) << "no line for a player without games";
+}
+
+TEST_F(TradeFixture, TradedMarksOnlyAPlayerWithGames) {
+  loadteam(h.state, 0, 0);
+  h.state.player(0, 0).GP = 3;
+  SaveTeam(h.state, 0, 0);
+  TradeOffice office(h.state, 0, 1);
+  const std::string played = h.state.player(0, 0).Name.str(), unplayed = h.state.player(0, 1).Name.str();
+  std::array<TradeSelection, 2> sel;
+  sel[0].players = {0, 1};
+  ASSERT_TRUE(office.cmdExecute(sel));
+  for (int slot = 0; slot < kRosterSlots; ++slot) {
+    const Player& p = h.state.player(1, slot);
+    if (p.Name.str() == played) {
+      EXPECT_NE(p.Traded, 0);
+    }
+    if (p.Name.str() == unplayed) {
+      EXPECT_EQ(p.Traded, 0);
+    }
+  }
+  ASSERT_EQ(Career(h.state).size(), 1u);
+  EXPECT_EQ(Career(h.state)[0].Team, 0);
+}
+
+}  // namespace
+}  // namespace kvl
