@@ -8,7 +8,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kCoaches{"Coaches.html", " Coaches", 14, 14, "<HTML><H1>Coach Ratings</H1>"};
+const PageInfo kCoaches{"Coaches.html", " Coaches", 14, 14, "<HTML><H1>Coach Ratings</H1>"};
 
 const char* const kColumns = "                                   OF  DF  EX  LD  SALARY";
 

@@ -12,7 +12,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kFinance{"Finance.html", " Team Finances", 6, 6, "<H2>Financial Report</H2>", true};
+const PageInfo kFinance{"Finance.html", " Team Finances", 6, 6, "<H2>Financial Report</H2>", true};
 
 constexpr int kCommitmentYears = 5;
 

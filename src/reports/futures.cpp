@@ -9,7 +9,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kFutures{"Futures.html", " Team Prospects", 7, 7, "<HTML><H1>Team Futures</H1>"};
+const PageInfo kFutures{"Futures.html", " Team Prospects", 7, 7, "<HTML><H1>Team Futures</H1>"};
 
 std::string Prospects(const ProspectList& list) {
   std::string out;

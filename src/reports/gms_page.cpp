@@ -8,7 +8,7 @@ namespace kvl {
 namespace {
 
 // The page closes itself before the footer, and one more "</HTML>" follows it.
-const PageSpec kGMs{"GMs.html", " GM Page", 16, 16, "<HTML><H1>General Managers</H1>"};
+const PageInfo kGMs{"GMs.html", " GM Page", 16, 16, "<HTML><H1>General Managers</H1>"};
 
 }  // namespace
 

@@ -9,9 +9,9 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kIndividual{"Individual.html", " Individual Leaders", 10, 10, "<H2>Individual Leaders</H2>", true};
-const PageSpec kTop5Goals{"Top5Goals.html", "", -1, -1, nullptr, false, nullptr};
-const PageSpec kTop5Assist{"Top5Assist.html", "", -1, -1, nullptr, false, nullptr};
+const PageInfo kIndividual{"Individual.html", " Individual Leaders", 10, 10, "<H2>Individual Leaders</H2>", true};
+const PageInfo kTop5Goals{"Top5Goals.html", "", -1, -1, nullptr, false, nullptr};
+const PageInfo kTop5Assist{"Top5Assist.html", "", -1, -1, nullptr, false, nullptr};
 
 constexpr std::size_t kListRows = 10;
 
@@ -115,9 +115,9 @@ void Section(const LeagueState& s, const std::vector<RosterEntry>& all, const ch
   page.add("</TABLE>");
 }
 
-void Top5(PageRun& run, const PageSpec& spec, const char* columns, const std::vector<RosterEntry>& all,
+void Top5(PageRun& run, const PageInfo& info, const char* columns, const std::vector<RosterEntry>& all,
           const Category& c) {
-  Page page(run, spec);
+  Page page(run, info);
   page.add(std::string("<PRE>") + columns);
   const auto ends = CaptionEnds(columns);
   const std::vector<std::size_t> valueEnds{ends[1], ends[2]};

@@ -11,7 +11,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kInjury{"Injury.html", " Injury Report", 5, 5, "<HTML><H2>Injury Report</H2>", false,
+const PageInfo kInjury{"Injury.html", " Injury Report", 5, 5, "<HTML><H2>Injury Report</H2>", false,
                        ")<BR><BR><BR><BR>", true, "<BODY>"};
 
 // The wordings of inj.dtf by record number; the injury of a player notes the

@@ -8,9 +8,9 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kLeaders{"Leaders.html", " Scoring Leaders", 3, 3, "<H2>Scoring Leaders</H2>", true};
-const PageSpec kTop5{"Top5Points.html", "", -1, -1, nullptr, false, nullptr};
-const PageSpec kFarmLeaders{"FarmLeaders.html", " Farm League Scoring Leaders", -1, -1,
+const PageInfo kLeaders{"Leaders.html", " Scoring Leaders", 3, 3, "<H2>Scoring Leaders</H2>", true};
+const PageInfo kTop5{"Top5Points.html", "", -1, -1, nullptr, false, nullptr};
+const PageInfo kFarmLeaders{"FarmLeaders.html", " Farm League Scoring Leaders", -1, -1,
                             "<H2>Farm League Scoring Leaders</H2>"};
 
 const char* const kScoringColumns = "<PRE> Player                     GP   G   A    P +/-  PIM  PP  SH  Shots  Sh%";

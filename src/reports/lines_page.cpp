@@ -9,7 +9,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kLines{"Lines.html", " Team Lines", 9, 9, "<H2>Team Lines</H2>", true, ")</P><BR><BR>"};
+const PageInfo kLines{"Lines.html", " Team Lines", 9, 9, "<H2>Team Lines</H2>", true, ")</P><BR><BR>"};
 
 const char* const kFullColumns =
     "<B>    CENTER                LEFT WING             RIGHT WING            DEFENCE               DEFENCE</B>";

@@ -19,7 +19,7 @@ struct PageRun {
   int pages = 0;
 };
 
-struct PageSpec {
+struct PageInfo {
   const char* file;     // behind the league prefix: "Standings.html"
   const char* title;    // behind the league prefix in TITLE
   int header = -1;      // .hdN, -1 for none
@@ -33,9 +33,9 @@ struct PageSpec {
 
 class Page {
  public:
-  Page(PageRun& run, const PageSpec& spec);
-  // The file name can differ from the spec's (the playoff schedule).
-  Page(PageRun& run, const PageSpec& spec, std::string file);
+  Page(PageRun& run, const PageInfo& info);
+  // The file name can differ from the usual one (the playoff schedule).
+  Page(PageRun& run, const PageInfo& info, std::string file);
 
   void add(std::string line) { lines_.push_back(std::move(line)); }
   // Footer file, closing tags; the page is written and counted.
@@ -43,7 +43,7 @@ class Page {
 
  private:
   PageRun& run_;
-  const PageSpec& spec_;
+  const PageInfo& info_;
   std::string file_;
   std::vector<std::string> lines_;
 };

@@ -10,7 +10,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kVitals{"PlayerVitals.html", " Player Vitals", 13, 13, "<HTML><H1>Player Vitals</H1>"};
+const PageInfo kVitals{"PlayerVitals.html", " Player Vitals", 13, 13, "<HTML><H1>Player Vitals</H1>"};
 
 const char* const kColumns = "#                            POS  AGE  HEIGHT    WEIGHT     SALARY  CONTRACT";
 

@@ -15,7 +15,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kRosters{"Rosters.html", " Team Rosters", 2, 2, "<H2>Team Rosters</H2>", true};
+const PageInfo kRosters{"Rosters.html", " Team Rosters", 2, 2, "<H2>Team Rosters</H2>", true};
 
 const char* const kColumns = "<PRE> # Player                 PO HD CD IJ IT SP ST EN DU DI SK PA PC DF SC EX LD OV";
 constexpr std::array<int, 13> kShown{kInt, kSpd, kStr, kEnd, kDur, kDis, kSka, kPas, kPcc, kDef, kSco, kExp, kLdr};

@@ -10,7 +10,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kSchedule{"Schedule.html", " League Schedule", 8, 8, "<HTML><BODY><H2>Season Schedule</H2>",
+const PageInfo kSchedule{"Schedule.html", " League Schedule", 8, 8, "<HTML><BODY><H2>Season Schedule</H2>",
                          false, ")</P>", true};
 
 constexpr int kPlayoffDaysHeaded = 7;

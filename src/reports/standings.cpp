@@ -13,9 +13,9 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kStandings{"Standings.html", " Standings", 1, 1, "<HTML><H2>Standings</H2>"};
-const PageSpec kTree{"StandingsTree.html", " Playoff Tree Standings", 1, 1, "<HTML><H2>Standings</H2>"};
-const PageSpec kFarm{"FarmStandings.html", " Standings", -1, -1, "<HTML><H2>Farm League Standings</H2>"};
+const PageInfo kStandings{"Standings.html", " Standings", 1, 1, "<HTML><H2>Standings</H2>"};
+const PageInfo kTree{"StandingsTree.html", " Playoff Tree Standings", 1, 1, "<HTML><H2>Standings</H2>"};
+const PageInfo kFarm{"FarmStandings.html", " Standings", -1, -1, "<HTML><H2>Farm League Standings</H2>"};
 
 std::string Pct(int points, int gp, int perGame) {
   if (gp == 0) return "N/A";

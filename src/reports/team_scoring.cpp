@@ -8,7 +8,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kTeamScoring{"TeamScoring.html", " Team Scoring", 4, 4, "<HTML><H1>Team Scoring</H1>"};
+const PageInfo kTeamScoring{"TeamScoring.html", " Team Scoring", 4, 4, "<HTML><H1>Team Scoring</H1>"};
 
 const char* const kSkaterColumns =
     "                            TEAM GP   G   A   P +/- PIM PP SH GW GT   HT    S  PCTG GS PS";

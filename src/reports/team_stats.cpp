@@ -10,7 +10,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kTeamStats{"TeamStats.html", " Team Stats", 12, 12, "<HTML><H2>Team Statistics</H2>"};
+const PageInfo kTeamStats{"TeamStats.html", " Team Stats", 12, 12, "<HTML><H2>Team Statistics</H2>"};
 
 // The figures of a row; nullopt where the divisor is zero.
 using Figures = std::array<std::optional<double>, 7>;

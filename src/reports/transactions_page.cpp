@@ -9,13 +9,13 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kTransact{"Transact.html", " Transactions", 15, 15, "<HTML><BODY><H1>Transactions</H1>", false,
+const PageInfo kTransact{"Transact.html", " Transactions", 15, 15, "<HTML><BODY><H1>Transactions</H1>", false,
                          ")</P>", true};
-const PageSpec kTransactSeason{"TransactSeason.html", " Season Transactions", 15, 15,
+const PageInfo kTransactSeason{"TransactSeason.html", " Season Transactions", 15, 15,
                                "<HTML><BODY><H1>Season Transactions</H1>", false, ")</P>", true};
 
-void CopyLog(PageRun& run, const PageSpec& spec, const char* log) {
-  Page page(run, spec);
+void CopyLog(PageRun& run, const PageInfo& info, const char* log) {
+  Page page(run, info);
   std::vector<std::string> lines;
   ReadPageLines(run.s.swap(log), lines);
   if (lines.empty()) page.add("No transactions to report.");

@@ -10,7 +10,7 @@ namespace kvl {
 
 namespace {
 
-const PageSpec kWaivers{"Waivers.html", " Waivers", 11, 20, "<H2>Waivers</H2>", true, ")</P><BR><BR>"};
+const PageInfo kWaivers{"Waivers.html", " Waivers", 11, 20, "<H2>Waivers</H2>", true, ")</P><BR><BR>"};
 
 template <class R>
 std::vector<R> ReadSwapRecords(const LeagueState& s, const char* swap) {
