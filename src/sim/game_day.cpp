@@ -243,11 +243,7 @@ bool Games::PlayToEnd() {
 }
 
 void Games::cmdHelp() {
-  for (int t = 0; t < s_.numTeams(); ++t) {
-    loadteam(s_, t, 0);
-    RestDay(s_, t, 0);
-    SaveTeam(s_, t, 0);
-  }
+  RestTeams({});  // nobody played
   s_.Dirty = true;
   s_.ui.tell("All Teams Rested For One Day", "Rest Day");
 }
