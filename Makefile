@@ -2,8 +2,9 @@
 JOBS ?= $(shell nproc)
 BUILD := build/release
 ASAN := build/asan
+COVER := build/coverage
 
-.PHONY: all bootstrap build build-asan demo test test-release test-asan bench clean
+.PHONY: all bootstrap build build-asan demo test test-release test-asan bench coverage clean
 
 all: build
 
@@ -15,6 +16,9 @@ $(BUILD)/CMakeCache.txt:
 
 $(ASAN)/CMakeCache.txt:
 	cmake -S . -B $(ASAN) -DCMAKE_BUILD_TYPE=Debug -DKVL_SANITIZE=ON
+
+$(COVER)/CMakeCache.txt:
+	cmake -S . -B $(COVER) -DCMAKE_BUILD_TYPE=Debug -DKVL_COVERAGE=ON -DKVL_BENCH=OFF
 
 build: bootstrap $(BUILD)/CMakeCache.txt
 	cmake --build $(BUILD) -j $(JOBS)
@@ -32,6 +36,14 @@ test-release: build
 
 test-asan: build-asan
 	cd $(ASAN) && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
+
+# Coverage needs gcovr, which only this target installs.
+coverage: $(COVER)/CMakeCache.txt
+	@scripts/bootstrap coverage
+	cmake --build $(COVER) -j $(JOBS)
+	find $(COVER) -name '*.gcda' -delete
+	$(COVER)/kvl_tests --gtest_brief=1
+	scripts/coverage $(COVER)
 
 bench: build
 	@for b in $(BUILD)/bench_*; do echo "== $$b"; $$b; done
