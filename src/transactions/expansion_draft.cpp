@@ -3,11 +3,13 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 
 #include "league/league_files.h"
 #include "league/ratings.h"
 #include "league/transaction_log.h"
 #include "reports/html.h"
+#include "team/auto_all.h"
 #include "team/auto_roster.h"
 #include "transactions/database_players.h"
 #include "ui/ui.h"
@@ -123,6 +125,22 @@ bool ExpansionDraftForm::over() {
   return true;
 }
 
+// A dressed club needs centres and both wings: the forwards come a few of
+// each position first.
+bool ExpansionDraftForm::AutoWants(int team, int pos) {
+  constexpr int kEachForward = 4;
+  if (roomFor(team, pos) <= 0) return false;
+  if (pos >= kDefence) return true;
+  loadteam(s_, team, 1);
+  std::array<int, 3> forwards{};
+  for (int slot = 0; slot < kRosterSlots; ++slot) {
+    const Player& p = s_.player(1, slot);
+    if (!p.empty() && p.Pos < kDefence) ++forwards[p.Pos];
+  }
+  return forwards[static_cast<std::size_t>(pos)] < kEachForward ||
+         std::all_of(forwards.begin(), forwards.end(), [](int n) { return n >= kEachForward; });
+}
+
 int ExpansionDraftForm::cmdAuto() {
   int taken = 0;
   for (bool progress = true; progress && s_.league.ExpansionDraftOn;) {
@@ -130,7 +148,7 @@ int ExpansionDraftForm::cmdAuto() {
     for (int team : expansionTeams()) {
       if (!s_.league.ExpansionDraftOn || NamedPlayers(s_, team) >= kRosterSlots) continue;
       std::vector<UnprotectedEntry> open = unprotected();
-      std::erase_if(open, [&](const UnprotectedEntry& e) { return roomFor(team, e.pos) <= 0; });
+      std::erase_if(open, [&](const UnprotectedEntry& e) { return !AutoWants(team, e.pos); });
       const auto best =
           std::max_element(open.begin(), open.end(),
                            [](const UnprotectedEntry& a, const UnprotectedEntry& b) { return a.overall < b.overall; });
@@ -151,7 +169,7 @@ void ExpansionDraftForm::Finish() {
   for (int team : expansionTeams())
     if (NamedPlayers(s_, team) >= kStockedRoster) {
       s_.team(team).Expansion = 0;
-      AutoRoster(s_, team, 0);
+      if (AutoAllShortages(s_, 0).empty()) AutoRoster(s_, team, 0);
     }
   s_.Dirty = true;
   s_.ui.tell("Expansion Draft Complete", kTitle);

@@ -50,6 +50,7 @@ class ExpansionDraftForm {
   void cmdOutput();
 
  private:
+  bool AutoWants(int team, int pos);
   void Finish();
   LeagueState& s_;
   ExpansionQuota quota_;
