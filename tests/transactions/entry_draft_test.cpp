@@ -1,0 +1,195 @@
+#include "transactions/entry_draft.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <numeric>
+
+#include "league/league_files.h"
+#include "support/data_league.h"
+#include "transactions/database_players.h"
+#include "transactions/draft_list.h"
+#include "transactions/draft_lottery.h"
+#include "transactions/draft_picks.h"
+#include "util/error.h"
+
+namespace kvl {
+namespace {
+
+constexpr const char* kTitle = "Entry Draft";
+
+// The u that draws `winner` from the box.
+double DrawFor(const std::vector<int>& box, int winner) {
+  const auto at = std::find(box.begin(), box.end(), winner) - box.begin();
+  return (static_cast<double>(at) + 0.5) / static_cast<double>(box.size());
+}
+
+struct LotteryRow {
+  int teams, playoffSize;
+  int winnerPlace;  // -1: no draw
+  std::vector<int> firstPlaces;
+  const char* why;
+};
+
+TEST(DraftLottery, TicketsAndTheOneMove) {
+  const LotteryRow rows[] = {
+      {16, 0, -1, {0, 1, 2, 3}, "every team in the playoffs: no tickets"},
+      {12, 0, -1, {0, 1, 2, 3}, "too few teams: C below 0, order by Priority"},
+      {17, 0, 0, {0, 1, 2, 3}, "C = 1: the last team's one ticket, it stays first"},
+      {24, 0, 2, {2, 0, 1, 3}, "from place 2 to the first place"},
+      {30, 0, 9, {0, 1, 2, 3, 4, 9, 5, 6, 7, 8, 10}, "from place 9 to place 5"},
+      {20, 1, 4, {4, 0, 1, 2, 3, 5}, "top 8: from place 4 to 0"},
+  };
+  for (const LotteryRow& r : rows) {
+    // Team t holds waiver place (t * 7) % teams, so places and numbers differ.
+    std::vector<int> priority(static_cast<std::size_t>(r.teams));
+    for (int t = 0; t < r.teams; ++t) priority[static_cast<std::size_t>(t)] = (t * 7) % r.teams;
+    const std::vector<int> byPlace = TeamsByPlace(priority);
+    const int missed = TeamsOutOfPlayoffs(r.teams, r.playoffSize);
+    const LotteryDraw probe = DrawDraftLottery(priority, missed, 0);
+    int total = 0;
+    for (int t = 0; t < r.teams; ++t) {
+      const int p = priority[static_cast<std::size_t>(t)];
+      EXPECT_EQ(probe.tickets[static_cast<std::size_t>(t)], p < missed ? missed - p : 0) << r.why;
+      total += probe.tickets[static_cast<std::size_t>(t)];
+    }
+    EXPECT_EQ(probe.ticketBox.size(), static_cast<std::size_t>(total)) << r.why;
+    const double u =
+        r.winnerPlace < 0 ? 0.5 : DrawFor(probe.ticketBox, byPlace[static_cast<std::size_t>(r.winnerPlace)]);
+    const LotteryDraw d = DrawDraftLottery(priority, missed, u);
+    ASSERT_EQ(d.order.size(), byPlace.size()) << r.why;
+    for (std::size_t place = 0; place < r.firstPlaces.size(); ++place)
+      EXPECT_EQ(d.order[place], byPlace[static_cast<std::size_t>(r.firstPlaces[place])]) << r.why << " place " << place;
+    EXPECT_EQ(d.winner, r.winnerPlace < 0 ? -1 : byPlace[static_cast<std::size_t>(r.winnerPlace)]) << r.why;
+  }
+}
+
+struct Draft {
+  explicit Draft(int teams = 8) {
+    test::NewBundledLeague(h, teams);
+    h.state.LeaguePath = (h.home / "draft").string();
+    h.state.LeagueShort = "draft";
+    h.state.league.DraftRounds = 2;
+    h.state.league.OptLottery = kFalse;
+    // Waiver places the reverse of team numbers: the last team picks first.
+    for (int t = 0; t < teams; ++t) h.state.team(t).Priority = static_cast<u8>(teams - 1 - t);
+    for (const DbRecord& r : ReadDatabase(h.state)) names.push_back(r.P.Name.str());
+  }
+  std::filesystem::path listFile(const std::string& text) {
+    const auto path = h.home / "list.txt";
+    std::ofstream(path, std::ios::binary) << text;
+    return path;
+  }
+  bool begin(int count) {
+    std::string text;
+    for (int i = 0; i < count; ++i) text += names[static_cast<std::size_t>(i)] + "\n";
+    h.ui.push("yes");
+    return EntryDraft(h.state, listFile(text));
+  }
+  test::Harness h;
+  std::vector<std::string> names;
+};
+
+TEST(EntryDraft, ABadListItemIsReportedByLineAndLeftOut) {
+  Draft d;
+  MarkUsed(d.h.state, {3});  // names[2] now plays for a team
+  const std::string text = d.names[0] + "\r\n\n\"" + d.names[1] + "\", " + d.names[0] + "\n" + d.names[2] +
+                           "\nNo Such Player\n" + d.names[4] + std::string(10, 'x') + "\n";
+  const DraftListRead read = ReadDraftListFile(d.h.state, d.listFile(text));
+  EXPECT_EQ(read.names, (std::vector<std::string>{d.names[0], d.names[1]}));
+  std::vector<int> lines;
+  for (const DraftListProblem& p : read.problems) lines.push_back(p.line);
+  // Blank, duplicate (second item of line 3), taken, unknown, and a name whose
+  // first 22 characters name nobody.
+  EXPECT_EQ(lines, (std::vector<int>{2, 3, 4, 5, 6}));
+  EXPECT_THROW(ReadDraftListFile(d.h.state, d.listFile(std::string("Name\0X", 6))), KvlError);
+
+  d.h.ui.push("yes");
+  EXPECT_FALSE(EntryDraft(d.h.state, d.listFile("\n\nNobody\n"))) << "nothing to draft";
+  EXPECT_FALSE(d.h.state.league.EntryDraftOn);
+  EXPECT_TRUE(ReadDraftList(d.h.state).empty()) << "nothing half-read";
+}
+
+TEST(EntryDraft, OrderByPriorityWithATradedPickAndAPickNobodyHolds) {
+  Draft d;
+  // Team 7 (first place) has traded its first-round pick to team 2; team 6's is gone.
+  DraftPickRecord from = ReadDraftPicks(d.h.state, 7), to = ReadDraftPicks(d.h.state, 2);
+  to.Pick[60] = from.Pick[1];
+  from.Pick[1] = DraftPick{};
+  WriteDraftPicks(d.h.state, 7, from);
+  WriteDraftPicks(d.h.state, 2, to);
+  DraftPickRecord gone = ReadDraftPicks(d.h.state, 6);
+  gone.Pick[1] = DraftPick{};
+  WriteDraftPicks(d.h.state, 6, gone);
+
+  ASSERT_TRUE(d.begin(40));
+  DraftNew form(d.h.state);
+  DraftTurn t = form.turn();
+  EXPECT_EQ(t.origTeam, 7);
+  EXPECT_EQ(t.holder, 2);
+  ASSERT_TRUE(form.cmdAdd(1));
+  EXPECT_TRUE(d.h.ui.told(d.names[0] + " added to roster", kTitle));
+  t = form.turn();
+  EXPECT_EQ(t.origTeam, 5) << "team 6's pick is passed";
+  EXPECT_EQ(t.overall, 3);
+  const std::vector<MadePick> made = form.picks();
+  ASSERT_EQ(made.size(), 1u);
+  EXPECT_EQ(made[0].team, "Club2");
+  EXPECT_EQ(made[0].fromTeam, "Club7");
+  loadteam(d.h.state, 2, 0);
+  EXPECT_EQ(d.h.state.player(0, 0).Name.str(), d.names[0]);
+  EXPECT_EQ(d.h.state.player(0, 0).Status, 0) << "a draftee starts in the minors";
+  EXPECT_NE(ReadDatabase(d.h.state)[0].DbFlag, 0) << "no longer a free agent";
+}
+
+TEST(EntryDraft, RefusedPicksChangeNothing) {
+  Draft d;
+  ASSERT_TRUE(d.begin(40));
+  DraftNew form(d.h.state);
+  ASSERT_TRUE(form.cmdProspect(1));
+  EXPECT_TRUE(d.h.ui.told(d.names[0] + " added to prospect list", kTitle));
+  EXPECT_FALSE(form.cmdAdd(1));
+  EXPECT_TRUE(d.h.ui.told(d.names[0] + " has been drafted already.", kTitle));
+  // The team at the turn has a full roster.
+  const int holder = form.turn().holder;
+  loadteam(d.h.state, holder, 0);
+  for (int slot = 0; slot < kRosterSlots; ++slot) d.h.state.player(0, slot).Name.set("Filler" + std::to_string(slot));
+  SaveTeam(d.h.state, holder, 0);
+  EXPECT_FALSE(form.cmdAdd(2));
+  EXPECT_TRUE(d.h.ui.told("No room on roster", kTitle));
+  EXPECT_EQ(form.turn().overall, 2) << "the turn stays";
+  EXPECT_EQ(form.cmdAuto(1), 1) << "auto goes to the prospect list";
+}
+
+TEST(EntryDraft, ContinuesAfterASaveAndALoadThenTurnsThePicksOver) {
+  Draft d;
+  ASSERT_TRUE(d.begin(40));
+  DraftNew(d.h.state).cmdAuto(5);
+  const std::string path = (d.h.home / "draft").string();
+  SaveLg(d.h.state);
+  d.h.state.leagueLock.release();
+
+  test::Harness again;
+  LoadLg(again.state, path);
+  again.ui.push("yes");
+  ASSERT_TRUE(ConEntryDraft(again.state));
+  DraftNew form(again.state);
+  EXPECT_EQ(form.turn().overall, 6);
+  EXPECT_EQ(form.picks().size(), 5u);
+  EXPECT_EQ(form.cmdAuto(100), 11) << "two rounds of eight";
+  EXPECT_FALSE(again.state.league.EntryDraftOn);
+  EXPECT_TRUE(again.ui.told("Draft Complete", kTitle));
+  EXPECT_TRUE(std::filesystem::exists(again.home / "Transfer" / "draftEntryDraft.html"));
+  for (int t = 0; t < 8; ++t) {
+    const DraftPickRecord r = ReadDraftPicks(again.state, t);
+    std::array<int, kPickYears> perYear{};
+    for (int i = 1; i < DraftPickRecord::kEntries; ++i)
+      if (r.Pick[static_cast<std::size_t>(i)].Active) ++perYear[r.Pick[static_cast<std::size_t>(i)].CurrentYear];
+    EXPECT_EQ(perYear, (std::array<int, kPickYears>{9, 9, 9, 9, 9, 9})) << "team " << t;
+    EXPECT_EQ(r.Pick[1].OrigTeam, t) << "sorted: this year's first round first";
+  }
+  EXPECT_EQ(again.state.league.CurrentYear, d.h.state.league.CurrentYear) << "the year turns with the season";
+}
+
+}  // namespace
+}  // namespace kvl
