@@ -44,6 +44,8 @@ void RegisterSeasonCommands(CLI::App& app, Session& s);
 void RegisterTransactionCommands(CLI::App& app, Session& s);
 void RegisterReportCommands(CLI::App& app, Session& s);
 void RegisterTradeCommands(CLI::App& app, Session& s);
+void RegisterLinesCommands(CLI::App& app, Session& s);
+void RegisterPlayerCommands(CLI::App& app, Session& s);
 
 inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterLeagueCommands(app, s);
@@ -56,6 +58,8 @@ inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterTransactionCommands(app, s);
   RegisterReportCommands(app, s);
   RegisterTradeCommands(app, s);
+  RegisterLinesCommands(app, s);
+  RegisterPlayerCommands(app, s);
 }
 
 // Takes the home folder's lock (refusing a second copy) and starts up.
