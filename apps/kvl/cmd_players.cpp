@@ -7,6 +7,7 @@
 #include "admin/player_database.h"
 #include "admin/update_stats.h"
 #include "console/league_view.h"
+#include "league/tables.h"
 #include "session.h"
 #include "team/prospects.h"
 #include "util/cp1252.h"
@@ -39,12 +40,17 @@ int ProspectEntry(Session& s, const ViewProspects& v, const std::string& arg) {
 }
 
 void Activate(Session& s, ViewProspects& v, const ProspectArgs& a) {
-  FindMatch m = v.cmdActivate(ProspectEntry(s, v, *a.activate));
+  const int entry = ProspectEntry(s, v, *a.activate);
+  const std::string own = Cp1252ToUtf8(v.list().Name[static_cast<std::size_t>(entry)].str());
+  FindMatch m = v.cmdActivate(entry);
   s.ui.print(m.status());
   bool done = false;
-  if (a.manual) done = m.cmdManual(a.manual->empty() ? std::nullopt : a.manual);
-  else if (a.record || m.matched()) done = m.cmdMatch(a.record ? *a.record : *m.matched());
-  else RefuseWith(s, "No database player bears that name: give --record N or --manual NAME.", "View Prospects");
+  if (a.manual)
+    done = m.cmdManual(a.manual->empty() ? own : *a.manual);
+  else if (a.record || m.matched())
+    done = m.cmdMatch(a.record ? *a.record : *m.matched());
+  else
+    RefuseWith(s, "No database player bears that name: give --record N or --manual NAME.", "View Prospects");
   if (!done) throw Refused("not activated");
 }
 
@@ -53,8 +59,9 @@ std::string ProspectsText(const Session& s, const ViewProspects& v, int team) {
   const ProspectList& l = v.list();
   for (int e : v.entries()) {
     const auto i = static_cast<std::size_t>(e);
-    out += fmt::format("{:>4}  {:<22}  {:>3}  age {:>2}  ${:>6}00  {} yr\n", e + 1, Cp1252ToUtf8(l.Name[i].str()),
-                       static_cast<int>(l.Pos[i]), l.Age[i], l.Salary[i], l.Contract[i]);
+    out += fmt::format("{:>4}  {:<22}  {:<2}  age {:>2}  {:>12}  {} yr\n", e + 1, Cp1252ToUtf8(l.Name[i].str()),
+                       l.Pos[i] < 5 ? PosName[l.Pos[i]] : "?", l.Age[i], FormatNumber(l.Salary[i] * 100.0, "$#,##0"),
+                       l.Contract[i]);
   }
   return out;
 }
@@ -71,15 +78,16 @@ void RunViewProspects(Session& s, const ProspectArgs& a) {
 
 void RegisterViewProspects(CLI::App& app, Session& s) {
   auto a = std::make_shared<ProspectArgs>();
-  CLI::App* cmd = AddCommand(app, s, "view-prospects",
-                             "List a team's prospects; add, delete, or activate one onto the roster", true,
-                             [&s, a] { RunViewProspects(s, *a); });
+  CLI::App* cmd =
+      AddCommand(app, s, "view-prospects", "List a team's prospects; add, delete, or activate one onto the roster",
+                 true, [&s, a] { RunViewProspects(s, *a); });
   cmd->add_option("TEAM", a->team, "team number or name")->required();
   cmd->add_option("--add", a->add, "add a prospect of this name");
   cmd->add_option("--delete", a->del, "delete the prospect of this list number or name");
   cmd->add_option("--activate", a->activate, "bring the prospect of this list number or name onto the roster");
   cmd->add_option("--record", a->record, "with --activate: the free database record (from 1) to take him from");
-  cmd->add_option("--manual", a->manual, "with --activate: make him by hand, under this name (\"\" asks)");
+  cmd->add_option("--manual", a->manual,
+                  "with --activate: make him by hand, under this name (\"\" for the prospect's)");
   cmd->footer("--activate takes the database player of the prospect's name when there is one.");
 }
 

@@ -96,7 +96,8 @@ void EditNamesAndRatings(Session& s, RosterEditor& e, const RosterArgs& a) {
     if (rating < 0 || eq == std::string::npos)
       RefuseWith(s, "A rating edit reads SLOT:RATING=VALUE with a rating as the player card names it, not \"" + text +
                         "\".", "Set Roster");
-    s.ui.print(fmt::format("{}: Overall {}", s.state.player(0, slot).Name.str(), e.SetRating(slot, rating, edit.substr(eq + 1))));
+    const int overall = e.SetRating(slot, rating, edit.substr(eq + 1));
+    s.ui.print(fmt::format("{}: Overall {}", s.state.player(0, slot).Name.str(), overall));
   }
 }
 
@@ -145,10 +146,10 @@ void RegisterSetRoster(CLI::App& app, Session& s) {
   cmd->add_option("--release", a->release, "roster slots to release to the free agents on leaving");
   cmd->add_option("--protect", a->protect, "roster slots whose protection mark to toggle");
   cmd->add_flag("--protection-view", a->protectView, "mark protected players and rookies with *");
-  cmd->add_option("--add", a->add, "add a new player of this name in the first free slot (edit his card with kvl player)");
+  cmd->add_option("--add", a->add, "add a new player of this name in the first free slot (then edit him: kvl player)");
   cmd->add_option("--add-pos", a->addPos, "position of the players added: C, LW, RW, D or G (default C)");
   cmd->add_option("--name", a->names, "SLOT=NAME: rename a player (cut to 22 characters)");
-  cmd->add_option("--rating", a->ratings, "SLOT:RATING=VALUE: set a rating (Int, Spd, ...) to 15-99; others are dropped");
+  cmd->add_option("--rating", a->ratings, "SLOT:RATING=VALUE: set a rating (Int, Spd, ...) to 15-99, else dropped");
   cmd->footer(
       "Moves run in the order scratch, farm, up, dress; a player goes from the minors to the dressed list with "
       "--up N --dress N. A refused move keeps nothing and exits 1.");

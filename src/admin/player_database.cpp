@@ -119,9 +119,8 @@ bool frmPlayerDB::SetField(const std::string& field, const std::string& text) {
     p.Salary = static_cast<i32>(v);
     return true;
   }
-  const std::vector<std::pair<std::string, u8*>> bytes{{"Number", &p.Num},       {"Age", &p.Age},
-                                                       {"Height", &p.Height},    {"Weight", &p.Weight},
-                                                       {"Contract", &p.Contract}};
+  const std::vector<std::pair<std::string, u8*>> bytes{
+      {"Number", &p.Num}, {"Age", &p.Age}, {"Height", &p.Height}, {"Weight", &p.Weight}, {"Contract", &p.Contract}};
   for (int r = 0; r < 13; ++r)
     if (field == kRatingNames[At(r)]) {
       auto v = ByteValue(text);

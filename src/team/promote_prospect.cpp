@@ -38,10 +38,9 @@ u8 PositionOf(const std::string& text) {
 }  // namespace
 
 const std::vector<std::string>& PromoteFieldNames() {
-  static const std::vector<std::string> names{"Name", "Num",   "Pos",    "Hand",   "Int", "spd",    "str",
-                                              "End",  "dur",   "dis",    "ska",    "pas", "pcc",    "DEF",
-                                              "sco",  "ldr",   "Exp",    "Height", "Weight", "Age", "salary",
-                                              "Contract", "Active"};
+  static const std::vector<std::string> names{"Name", "Num",    "Pos",    "Hand", "Int",    "spd",      "str",   "End",
+                                              "dur",  "dis",    "ska",    "pas",  "pcc",    "DEF",      "sco",   "ldr",
+                                              "Exp",  "Height", "Weight", "Age",  "salary", "Contract", "Active"};
   return names;
 }
 

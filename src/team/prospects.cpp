@@ -89,8 +89,8 @@ bool FindMatch::cmdManual(std::optional<std::string> name) {
     return false;
   }
   const i32 salary = static_cast<i32>(list.Salary[At(entry_)]) * 100;
-  const Player p = PromoteProspect(
-      NewPlayerFields(Utf8ToCp1252(*name), list.Pos[At(entry_)], list.Age[At(entry_)], salary, list.Contract[At(entry_)]));
+  const Player p = PromoteProspect(NewPlayerFields(Utf8ToCp1252(*name), list.Pos[At(entry_)], list.Age[At(entry_)],
+                                                   salary, list.Contract[At(entry_)]));
   PlaceOnRoster(s_, 0, slot, p, NewcomerStatus(s_, 0));
   Signed(slot);
   return true;

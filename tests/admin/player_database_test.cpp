@@ -1,9 +1,10 @@
 // The player database form and the ratings update: deletes keep every other
 // record byte for byte, bad files are refused at open, namesakes take
 // successive records, and a merge gives the league the database's values.
+#include "admin/player_database.h"
+
 #include <gtest/gtest.h>
 
-#include "admin/player_database.h"
 #include "admin/update_stats.h"
 #include "league/league_files.h"
 #include "support/league_fixture.h"
@@ -24,7 +25,8 @@ struct PlayerDatabaseTest : ::testing::Test {
   Bytes Write(int n) {
     Bytes all;
     for (int i = 1; i <= n; ++i) {
-      Bytes r = EncodeRecord(DbRecord{static_cast<i16>(i % 2 ? 0 : -1), MakePlayer("P" + std::to_string(i), i % 5, 40 + i)});
+      Bytes r =
+          EncodeRecord(DbRecord{static_cast<i16>(i % 2 ? 0 : -1), MakePlayer("P" + std::to_string(i), i % 5, 40 + i)});
       all.insert(all.end(), r.begin(), r.end());
     }
     WriteFileAtomic(file, all);
@@ -38,8 +40,9 @@ TEST_F(PlayerDatabaseTest, DeletingKeepsEveryOtherRecordByteForByte) {
     int records, index;
     const char* answer;
   } cases[] = {
-      {"the first", 4, 0, "yes"}, {"one in the middle", 4, 2, "yes"}, {"the last", 4, 3, "yes"},
-      {"the only one leaves an empty database", 1, 0, "yes"}, {"answered no", 4, 1, "no"},
+      {"the first", 4, 0, "yes"},  {"one in the middle", 4, 2, "yes"},
+      {"the last", 4, 3, "yes"},   {"the only one leaves an empty database", 1, 0, "yes"},
+      {"answered no", 4, 1, "no"},
   };
   for (const auto& c : cases) {
     Bytes expected = Write(c.records);

@@ -1,5 +1,7 @@
 // Managers' lines files: the binary file's round trip and password, the
 // status moves of a load, the text import's refusals, and Auto Load Lines.
+#include "team/lines_file.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -9,7 +11,6 @@
 #include "support/league_fixture.h"
 #include "team/auto_load_lines.h"
 #include "team/line_editor.h"
-#include "team/lines_file.h"
 #include "team/lines_import.h"
 #include "team/lines_text_import.h"
 #include "util/record_file.h"

@@ -1,12 +1,13 @@
 // Prospects: adding to a full list, and activation through a database match,
 // by hand, and onto a full roster.
+#include "team/prospects.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
 
 #include "league/league_files.h"
 #include "support/league_fixture.h"
-#include "team/prospects.h"
 #include "transactions/database_players.h"
 #include "util/record_file.h"
 
