@@ -8,6 +8,7 @@
 #include "admin/update_stats.h"
 #include "console/league_view.h"
 #include "league/tables.h"
+#include "refuse.h"
 #include "session.h"
 #include "team/prospects.h"
 #include "util/cp1252.h"
@@ -17,11 +18,6 @@
 namespace kvl {
 
 namespace {
-
-[[noreturn]] void RefuseWith(Session& s, const std::string& text, const std::string& title) {
-  s.ui.tell(text, title);
-  throw Refused(text);
-}
 
 // --- view-prospects ---------------------------------------------------------
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "console/league_view.h"
+#include "refuse.h"
 #include "session.h"
 #include "team/auto_all.h"
 #include "team/coach_card.h"
@@ -25,11 +26,6 @@
 namespace kvl {
 
 namespace {
-
-[[noreturn]] void RefuseWith(Session& s, const std::string& text, const std::string& title) {
-  s.ui.tell(text, title);
-  throw Refused(text);
-}
 
 // --- set-roster -------------------------------------------------------------
 

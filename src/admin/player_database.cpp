@@ -23,15 +23,6 @@ constexpr u8 kNoRating = 255;
 
 std::size_t At(int i) { return static_cast<std::size_t>(i); }
 
-Bytes EncodeAll(const std::vector<DbRecord>& records) {
-  Bytes out;
-  for (const DbRecord& r : records) {
-    Bytes b = EncodeRecord(r);
-    out.insert(out.end(), b.begin(), b.end());
-  }
-  return out;
-}
-
 std::string PosText(int pos) { return pos < 5 ? Trim(PosName[At(pos)]) : "?"; }
 std::string HandText(u8 hand) { return hand == 'L' ? "L" : hand == 'R' ? "R" : "na"; }
 
@@ -172,7 +163,7 @@ bool frmPlayerDB::cmdClear() {
 // Through temp.drs, so a failed write leaves the database as it was.
 void frmPlayerDB::Replace(const std::vector<DbRecord>& keep) {
   const auto temp = s_.AppPath / "temp.drs";
-  s_.files().writeFile(temp, EncodeAll(keep));
+  s_.files().writeFile(temp, EncodeRecords(keep));
   s_.files().rename(temp, file_);
   db_ = keep;
 }
