@@ -91,7 +91,7 @@ void RegisterViewProspects(CLI::App& app, Session& s) {
 
 struct DatabaseArgs {
   std::optional<std::string> drs;
-  bool list = false, add = false, merge = false, output = false;
+  bool list = false, add = false, clear = false, merge = false, output = false;
   std::vector<int> show, del;
   std::vector<std::string> set;
 };
@@ -121,6 +121,7 @@ void RunPlayerDatabase(Session& s, const DatabaseArgs& a) {
   for (const auto& text : a.set) SetField(s, f, text);
   for (int n : a.del)
     if (!f.cmdDelete(RecordArg(s, f, n))) throw Refused("kept");
+  if (a.clear && !f.cmdClear()) throw Refused("kept");
   if (a.merge) f.cmdMerge();
   if (a.output) s.ui.print("Written " + f.cmdOutput().string());
   for (int n : a.show) {
@@ -141,9 +142,10 @@ void AddDatabaseOptions(CLI::App* cmd, DatabaseArgs& a) {
                   "RECORD:FIELD=VALUE; fields Name, Pos (C LW RW D G), Number, Hand (L or R), Age, Height, Weight, "
                   "Birthplace, Contract, Salary, and the ratings Int .. Ldr");
   cmd->add_option("--delete", a.del, "delete this record (asks first); the others are kept as they are");
+  cmd->add_flag("--clear", a.clear, "remove every record (asks first)");
   cmd->add_flag("--merge", a.merge, "merge into the league's players by name; leftovers become free agents");
   cmd->add_flag("--output", a.output, "write the Players.html page");
-  cmd->footer("Edits run in the order add, set, delete, merge, output; listings show the result.");
+  cmd->footer("Edits run in the order add, set, delete, clear, merge, output; listings show the result.");
 }
 
 void RegisterPlayerDatabase(CLI::App& app, Session& s) {

@@ -164,7 +164,12 @@ bool frmPlayerDB::cmdClear() {
 void frmPlayerDB::Replace(const std::vector<DbRecord>& keep) {
   const auto temp = s_.AppPath / "temp.drs";
   s_.files().writeFile(temp, EncodeRecords(keep));
-  s_.files().rename(temp, file_);
+  try {
+    s_.files().rename(temp, file_);
+  } catch (const KvlError&) {  // a database on another disk than the home folder
+    CopyFileAtomic(temp, file_);
+    s_.files().remove(temp);
+  }
   db_ = keep;
 }
 

@@ -30,4 +30,10 @@ std::optional<std::string> TakeLinesRecord(LeagueState& s, int team, int side, c
 LinesImport ImportLinesSub(LeagueState& s, int side, LineEditor* editor,
                            std::optional<std::filesystem::path> chosen = std::nullopt);
 
+// The line editor's cmdLoadLines: the file goes into the editor's LineBuf.
+inline LinesImport cmdLoadLines(LeagueState& s, LineEditor& e,
+                                std::optional<std::filesystem::path> chosen = std::nullopt) {
+  return ImportLinesSub(s, 0, &e, std::move(chosen));
+}
+
 }  // namespace kvl
