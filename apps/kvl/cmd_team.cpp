@@ -1,10 +1,12 @@
 // Rosters, lines and coaches: set-roster, set-lines, auto-all and the coach commands.
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
 #include "console/league_view.h"
+#include "refuse.h"
 #include "session.h"
 #include "team/auto_all.h"
 #include "team/coach_card.h"
@@ -12,21 +14,18 @@
 #include "team/coach_list.h"
 #include "team/coach_rules.h"
 #include "util/numbers.h"
+#include "team/cards.h"
 #include "team/line_editor.h"
 #include "team/line_table.h"
 #include "team/line_view.h"
 #include "team/roster_editor.h"
 #include "team/roster_view.h"
+#include "util/cp1252.h"
 #include "util/error.h"
 
 namespace kvl {
 
 namespace {
-
-[[noreturn]] void RefuseWith(Session& s, const std::string& text, const std::string& title) {
-  s.ui.tell(text, title);
-  throw Refused(text);
-}
 
 // --- set-roster -------------------------------------------------------------
 
@@ -34,6 +33,8 @@ struct RosterArgs {
   std::string team;
   bool autoRoster = false, protectView = false;
   std::vector<int> scratch, farm, up, dress, release, protect;
+  std::vector<std::string> add, names, ratings;
+  std::string addPos = "C";
 };
 
 void CheckSlot(Session& s, RosterEditor& e, int index) {
@@ -66,9 +67,52 @@ void Protect(Session& s, RosterEditor& e, const std::vector<int>& indexes) {
   }
 }
 
+// "12=Joe Smith" and "12:Spd=70": a roster slot, then what to store.
+std::pair<int, std::string> SlotEdit(Session& s, RosterEditor& e, const std::string& text, char sep) {
+  const auto at = text.find(sep);
+  const double slot = at == std::string::npos ? -1 : Val(text.substr(0, at));
+  if (at == std::string::npos || slot != Int(slot))
+    RefuseWith(s, "Name a roster slot first, as 12" + std::string(1, sep) + "..., not \"" + text + "\".", "Set Roster");
+  CheckSlot(s, e, static_cast<int>(slot));
+  return {static_cast<int>(slot), text.substr(at + 1)};
+}
+
+void EditNamesAndRatings(Session& s, RosterEditor& e, const RosterArgs& a) {
+  for (const auto& text : a.names) {
+    auto [slot, name] = SlotEdit(s, e, text, '=');
+    e.SetName(slot, Utf8ToCp1252(name));
+  }
+  for (const auto& text : a.ratings) {
+    auto [slot, edit] = SlotEdit(s, e, text, ':');
+    const auto eq = edit.find('=');
+    const std::string which = edit.substr(0, eq);
+    int rating = -1;
+    for (const auto& f : PlayerFields())
+      if (f.rating >= 0 && f.name == which) rating = f.rating;
+    if (rating < 0 || eq == std::string::npos)
+      RefuseWith(s, "A rating edit reads SLOT:RATING=VALUE with a rating as the player card names it, not \"" + text +
+                        "\".", "Set Roster");
+    const int overall = e.SetRating(slot, rating, edit.substr(eq + 1));
+    s.ui.print(fmt::format("{}: Overall {}", s.state.player(0, slot).Name.str(), overall));
+  }
+}
+
+void AddPlayers(Session& s, RosterEditor& e, const RosterArgs& a) {
+  static const std::vector<std::string> kPos{"C", "LW", "RW", "D", "G"};
+  auto pos = std::find(kPos.begin(), kPos.end(), a.addPos);
+  if (pos == kPos.end()) RefuseWith(s, "A position is C, LW, RW, D or G, not \"" + a.addPos + "\".", "Set Roster");
+  for (const auto& name : a.add) {
+    const int slot = e.cmdAdd(Utf8ToCp1252(name), static_cast<int>(pos - kPos.begin()),
+                              [&](PlayerCard& card) { s.ui.print(e.AddCaption() + "\n" + card.Text()); });
+    if (slot < 0) throw Refused("roster full");
+  }
+}
+
 void RunSetRoster(Session& s, const RosterArgs& a) {
   RosterEditor e(s.state, ResolveTeam(s.state, a.team));
   if (a.protectView || !a.protect.empty()) e.chkProtect(true);
+  AddPlayers(s, e, a);
+  EditNamesAndRatings(s, e, a);
   if (a.autoRoster && !e.cmdAuto()) throw Refused("auto roster");
   Move(s, e, RosterMove::DressedToScratch, a.scratch);
   Move(s, e, RosterMove::ScratchToMinors, a.farm);
@@ -98,6 +142,10 @@ void RegisterSetRoster(CLI::App& app, Session& s) {
   cmd->add_option("--release", a->release, "roster slots to release to the free agents on leaving");
   cmd->add_option("--protect", a->protect, "roster slots whose protection mark to toggle");
   cmd->add_flag("--protection-view", a->protectView, "mark protected players and rookies with *");
+  cmd->add_option("--add", a->add, "add a new player of this name in the first free slot (then edit him: kvl player)");
+  cmd->add_option("--add-pos", a->addPos, "position of the players added: C, LW, RW, D or G (default C)");
+  cmd->add_option("--name", a->names, "SLOT=NAME: rename a player (cut to 22 characters)");
+  cmd->add_option("--rating", a->ratings, "SLOT:RATING=VALUE: set a rating (Int, Spd, ...) to 15-99, else dropped");
   cmd->footer(
       "Moves run in the order scratch, farm, up, dress; a player goes from the minors to the dressed list with "
       "--up N --dress N. A refused move keeps nothing and exits 1.");

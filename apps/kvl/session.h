@@ -45,6 +45,8 @@ void RegisterTransactionCommands(CLI::App& app, Session& s);
 void RegisterReportCommands(CLI::App& app, Session& s);
 void RegisterTradeCommands(CLI::App& app, Session& s);
 void RegisterDraftCommands(CLI::App& app, Session& s);
+void RegisterLinesCommands(CLI::App& app, Session& s);
+void RegisterPlayerCommands(CLI::App& app, Session& s);
 
 inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterLeagueCommands(app, s);
@@ -58,6 +60,8 @@ inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterReportCommands(app, s);
   RegisterTradeCommands(app, s);
   RegisterDraftCommands(app, s);
+  RegisterLinesCommands(app, s);
+  RegisterPlayerCommands(app, s);
 }
 
 // Takes the home folder's lock (refusing a second copy) and starts up.

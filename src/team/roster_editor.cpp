@@ -5,7 +5,10 @@
 #include "league/league_files.h"
 #include "league/ratings.h"
 #include "league/roster_check.h"
+#include "team/cards.h"
 #include "team/line_table.h"
+#include "team/promote_prospect.h"
+#include "transactions/database_players.h"
 #include "team/protection.h"
 #include "team/roster_rules.h"
 #include "ui/ui.h"
@@ -114,6 +117,28 @@ bool RosterEditor::cmdAuto() {
   AutoRoster(false);
   listPlayers();
   return true;
+}
+
+std::string RosterEditor::AddCaption() const { return "Add player to " + s_.team(team()).Name.str(); }
+
+int RosterEditor::cmdAdd(const std::string& name, int pos, const std::function<void(PlayerCard&)>& onCard) {
+  constexpr int kRookieAge = 20, kRookieContract = 1;
+  const int slot = FirstFreeSlot(s_, side());
+  if (slot < 0) {
+    s_.ui.tell("No room on roster", AddCaption());
+    return -1;
+  }
+  Changed = true;
+  PlaceOnRoster(s_, side(), slot, PromoteProspect(NewPlayerFields(name, pos, kRookieAge, 0, kRookieContract)),
+                NewcomerStatus(s_, side()));
+  s_.CurPlayer = static_cast<u8>(slot);
+  PlayerCard card(s_, side());
+  if (onCard) onCard(card);
+  card.SaveChanges();
+  temp(slot) = PrevStatus[static_cast<std::size_t>(slot)] = at(slot).Status;
+  SaveTeam(s_, team(), side());
+  listPlayers();
+  return slot;
 }
 
 void RosterEditor::SetName(int index, const std::string& text) {

@@ -5,12 +5,15 @@
 // change only on leaving with yes, save the direct edits of names, ratings,
 // protection and release marks.
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
 #include "team/auto_roster.h"
 
 namespace kvl {
+
+class PlayerCard;
 
 enum RosterList : int { kMinorsList = 0, kScratchList = 1, kDressedList = 2 };
 enum class RosterMove { DressedToScratch, ScratchToDressed, ScratchToMinors, MinorsToScratch };
@@ -40,6 +43,11 @@ class RosterEditor : public RosterMaker {
   int listOf(int index) const { return TempStatus[static_cast<std::size_t>(index)] / 100; }
   // False (after telling the shortages) when the team has too few players.
   bool cmdAuto();
+  // "Add player to " + team: a new player of `pos` in the first free slot,
+  // shown on his card for `onCard` to edit, then the team is saved. The slot,
+  // or -1 (after telling) when all 50 are taken.
+  int cmdAdd(const std::string& name, int pos, const std::function<void(PlayerCard&)>& onCard = {});
+  std::string AddCaption() const;
   void SetName(int index, const std::string& text);
   // Stores the whole part of a value from 15 to 99; others are dropped. The
   // player's Overall afterwards.

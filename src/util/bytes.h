@@ -164,6 +164,17 @@ Bytes EncodeRecord(const R& r) {
   return out;
 }
 
+// The records one after the other, as a file of fixed records holds them.
+template <class R>
+Bytes EncodeRecords(const std::vector<R>& records) {
+  Bytes out;
+  for (const R& r : records) {
+    Bytes b = EncodeRecord(r);
+    out.insert(out.end(), b.begin(), b.end());
+  }
+  return out;
+}
+
 template <class R>
 std::vector<FieldMapper::Field> FieldMap() {
   R r{};
