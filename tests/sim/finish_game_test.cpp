@@ -58,10 +58,22 @@ struct GateGame : GameFixture {
 };
 
 TEST(Attendance, WorkedByHand) {
-  GateGame g;
-  const double noise = g.Noise();
-  const double expected = 25 / std::pow(25.0, 1.05) * 17000 * 1.125 * (0.56 / 2 + 0.75) * noise;
-  EXPECT_EQ(Attendance(g.game), static_cast<int>(std::floor(expected)));
+  struct Row {
+    int awayConf, awayDiv;
+    double rivalry;
+    const char* why;
+  } rows[] = {
+      {1, 0, 1.0, "another conference"},
+      {0, 1, 1.0, "the same conference, another division"},
+      {0, 0, 1.04, "a division rival draws more"},
+  };
+  for (const Row& r : rows) {
+    GateGame g;
+    g.h.state.team(0).Conf = static_cast<u8>(r.awayConf), g.h.state.team(0).Div = static_cast<u8>(r.awayDiv);
+    const double noise = g.Noise();
+    const double expected = 25 / std::pow(25.0, 1.05) * 17000 * 1.125 * (0.56 / 2 + 0.75) * r.rivalry * noise;
+    EXPECT_EQ(Attendance(g.game), static_cast<int>(std::floor(expected))) << r.why;
+  }
 }
 
 TEST(Attendance, IsCappedBySeatsAndReadsTicketZeroAsTwenty) {
