@@ -94,7 +94,8 @@ LinesImport ImportLinesSub(LeagueState& s, int side, LineEditor* editor, std::op
     return {false, e.what()};
   }
   const int team = s.CurTeam;
-  if (r.Password != s.team(team).Password) {
+  // Compared as text: a team never given a password holds zeros, the file blanks.
+  if (r.Password.str() != s.team(team).Password.str()) {
     s.ui.tell("Password Incorrect", "Import Lines");
     return {false, chosen->string() + ": the password is not the one of the " + s.team(team).Name.str()};
   }

@@ -64,22 +64,28 @@ TEST_F(LinesFileTest, AFileWrittenAndLoadedBackReproducesTheTableByteForByte) {
 TEST_F(LinesFileTest, OnlyTheTeamsPasswordAndAWholeRecordAreAccepted) {
   struct Case {
     const char* what;
+    const char* team;  // nullptr: never set, the field all zero
     std::string password;
     int cut;  // bytes to remove (negative: add)
     bool loaded;
     const char* told;
     const char* title;
   } cases[] = {
-      {"the team's password", "secret", 0, true, nullptr, nullptr},
-      {"typed longer: the file keeps 10 characters", "secret", 0, true, nullptr, nullptr},
-      {"another case", "Secret", 0, false, "Password Incorrect", "Import Lines"},
-      {"no password", "", 0, false, "Password Incorrect", "Import Lines"},
-      {"truncated", "secret", 1, false, "Errors in File", "Invalid File"},
-      {"oversized", "secret", -1, false, "Errors in File", "Invalid File"},
+      {"the team's password", "secret", "secret", 0, true, nullptr, nullptr},
+      {"typed longer: the file keeps 10 characters", "secret1234", "secret12345678", 0, true, nullptr, nullptr},
+      {"another case", "secret", "Secret", 0, false, "Password Incorrect", "Import Lines"},
+      {"no password", "secret", "", 0, false, "Password Incorrect", "Import Lines"},
+      {"a team never given one takes an empty one", nullptr, "", 0, true, nullptr, nullptr},
+      {"a team never given one refuses any other", nullptr, "secret", 0, false, "Password Incorrect", "Import Lines"},
+      {"truncated", "secret", "secret", 1, false, "Errors in File", "Invalid File"},
+      {"oversized", "secret", "secret", -1, false, "Errors in File", "Invalid File"},
   };
   for (const auto& c : cases) {
-    h.state.team(0).Password.set(std::string(c.what).starts_with("typed") ? "secret1234" : "secret");
-    Save(dir / "t.lns", std::string(c.what).starts_with("typed") ? "secret12345678" : c.password);
+    if (c.team)
+      h.state.team(0).Password.set(c.team);
+    else
+      h.state.team(0).Password.clear();
+    Save(dir / "t.lns", c.password);
     Bytes bytes = ReadFileBytes(dir / "t.lns");
     bytes.resize(static_cast<std::size_t>(static_cast<int>(bytes.size()) - c.cut));
     WriteFileAtomic(dir / "t.lns", bytes);
