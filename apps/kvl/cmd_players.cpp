@@ -10,7 +10,7 @@
 #include "league/tables.h"
 #include "refuse.h"
 #include "session.h"
-#include "team/prospects.h"
+#include "team/youth_form.h"
 #include "util/cp1252.h"
 #include "util/error.h"
 #include "util/numbers.h"

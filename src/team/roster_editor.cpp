@@ -7,7 +7,7 @@
 #include "league/roster_check.h"
 #include "team/cards.h"
 #include "team/line_table.h"
-#include "team/promote_prospect.h"
+#include "team/youth_promotion.h"
 #include "transactions/database_players.h"
 #include "team/protection.h"
 #include "team/roster_rules.h"

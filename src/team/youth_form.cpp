@@ -1,11 +1,11 @@
-#include "team/prospects.h"
+#include "team/youth_form.h"
 
 #include <algorithm>
 
 #include "league/league_files.h"
 #include "league/transaction_log.h"
 #include "reports/html.h"
-#include "team/promote_prospect.h"
+#include "team/youth_promotion.h"
 #include "transactions/database_players.h"
 #include "ui/ui.h"
 #include "util/cp1252.h"

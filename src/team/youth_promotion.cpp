@@ -1,4 +1,4 @@
-#include "team/promote_prospect.h"
+#include "team/youth_promotion.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 // Prospects: adding to a full list, and activation through a database match,
 // by hand, and onto a full roster.
-#include "team/prospects.h"
+#include "team/youth_form.h"
 
 #include <gtest/gtest.h>
 
