@@ -18,35 +18,22 @@
 namespace kvl::test {
 namespace {
 
-struct Line {
-  int w, l, t, otw, otl, gf, ga;
-};
-
-Team Record(const Line& r) {
-  Team t;
-  t.W = {static_cast<u8>(r.w), static_cast<u8>(r.otw), 0};
-  t.L = {static_cast<u8>(r.l), static_cast<u8>(r.otl), 0};
-  t.T = {static_cast<u8>(r.t), 0, 0};
-  t.GF = static_cast<i16>(r.gf);
-  t.GA = static_cast<i16>(r.ga);
-  return t;
-}
-
 TEST(SeedOrder, PointsThenWinsThenGoalDifferenceThenTeamOrder) {
   Harness h;
   h.load(AlignedLeague({{2, 2}, {2, 2}}));
-  const Line lines[] = {
-      {10, 10, 0, 0, 0, 50, 50},  // 20 points
-      {9, 9, 2, 0, 0, 60, 40},    // 20 points, fewer wins
-      {10, 10, 0, 0, 0, 55, 50},  // 20 points, as many wins, better difference
-      {10, 10, 0, 0, 0, 50, 50},  // equal to team 0 in all three: behind it
-      {11, 9, 0, 0, 0, 40, 60},   // 22 points
-      {0, 20, 0, 0, 0, 0, 0},    {0, 20, 0, 0, 0, 0, 0}, {0, 20, 0, 0, 0, 0, 0},
+  const int rows[][5] = {
+      {10, 10, 0, 50, 50},  // 20 points
+      {9, 9, 2, 60, 40},    // 20 points, fewer wins
+      {10, 10, 0, 55, 50},  // 20 points, as many wins, better difference
+      {10, 10, 0, 50, 50},  // equal to team 0 in all three: behind it
+      {11, 9, 0, 40, 60},   // 22 points
+      {0, 20, 0, 0, 0},     {0, 20, 0, 0, 0}, {0, 20, 0, 0, 0},
   };
   for (int t = 0; t < 8; ++t) {
-    Team r = Record(lines[t]);
+    const auto& [w, l, ties, gf, ga] = rows[t];
     Team& team = h.state.team(t);
-    team.W = r.W, team.L = r.L, team.T = r.T, team.GF = r.GF, team.GA = r.GA;
+    team.W[0] = static_cast<u8>(w), team.L[0] = static_cast<u8>(l), team.T[0] = static_cast<u8>(ties);
+    team.GF = static_cast<i16>(gf), team.GA = static_cast<i16>(ga);
   }
   EXPECT_EQ(SeedOrder(h.state), (std::vector<int>{4, 2, 0, 3, 1, 5, 6, 7}));
 }

@@ -31,9 +31,10 @@ std::vector<std::string> LogLines(const fs::path& file) {
 }
 
 // Allots with the given minimums; GPTeam is the suggestion unless given.
-Allotted Allot(const Alignment& a, int vsDiv, int vsConf, int vsLg, int gpTeam = 0) {
+Allotted Allot(const Alignment& a, int vsDiv, int vsConf, int vsLg, int gpTeam = 0, int unaligned = -1) {
   test::Harness h;
   test::AlignInMemory(h.state, a);
+  if (unaligned >= 0) h.state.team(unaligned).Conf = kNoConference;
   ScheduleParams p = DefaultScheduleParams(h.state.numTeams());
   p.vsDiv = vsDiv;
   p.vsConf = vsConf;
@@ -46,42 +47,31 @@ Allotted Allot(const Alignment& a, int vsDiv, int vsConf, int vsLg, int gpTeam =
   return r;
 }
 
-int Relation(const LeagueState& s, int a, int b, int vsDiv, int vsConf, int vsLg) {
-  if (s.team(a).Conf != s.team(b).Conf) return vsLg;
-  return s.team(a).Div == s.team(b).Div ? vsDiv : vsConf;
-}
-
-struct MinimumsCase {
-  int vsDiv, vsConf, vsLg, gamesPerTeam;
-};
-
-class BalancedAllotment : public ::testing::TestWithParam<MinimumsCase> {};
-
 // In a balanced league at the suggested total every pair meets exactly as the
 // minimums ask, split evenly, and no top-up game is needed.
-TEST_P(BalancedAllotment, EveryPairMeetsAsTheMinimumsAsk) {
-  const MinimumsCase& c = GetParam();
+TEST(Allotment, EveryPairMeetsAsTheMinimumsAsk) {
+  const int rows[][4] = {{6, 2, 2, 66}, {4, 4, 2, 68}, {2, 0, 0, 10}, {8, 2, 0, 52}};  // div, conf, lg, games
   test::Harness h;
   test::AlignInMemory(h.state, kDemo);
-  ASSERT_EQ(*SuggestedGamesPerTeam(h.state, c.vsDiv, c.vsConf, c.vsLg), c.gamesPerTeam);
-  Allotted r = Allot(kDemo, c.vsDiv, c.vsConf, c.vsLg);
-  ASSERT_TRUE(r.ok);
-  for (int a = 0; a < 24; ++a) {
-    EXPECT_EQ(r.m.TotalGP[a], c.gamesPerTeam);
-    EXPECT_EQ(r.m.HomeGP[a], c.gamesPerTeam / 2);
-    for (int b = 0; b < 24; ++b) {
-      if (a == b) continue;
-      int games = Relation(h.state, a, b, c.vsDiv, c.vsConf, c.vsLg);
-      EXPECT_EQ(r.m.Matchups(a, b), games) << a << " v " << b;
-      EXPECT_EQ(r.m.HomeMatchups(a, b), games / 2) << a << " hosting " << b;
-      EXPECT_FALSE(r.m.ExtraGame(a, b));
+  for (const auto& [vsDiv, vsConf, vsLg, gamesPerTeam] : rows) {
+    ASSERT_EQ(*SuggestedGamesPerTeam(h.state, vsDiv, vsConf, vsLg), gamesPerTeam);
+    Allotted r = Allot(kDemo, vsDiv, vsConf, vsLg);
+    ASSERT_TRUE(r.ok);
+    for (int a = 0; a < 24; ++a) {
+      EXPECT_EQ(r.m.TotalGP[a], gamesPerTeam);
+      EXPECT_EQ(r.m.HomeGP[a], gamesPerTeam / 2);
+      for (int b = 0; b < 24; ++b) {
+        if (a == b) continue;
+        const int games = h.state.team(a).Conf != h.state.team(b).Conf   ? vsLg
+                          : h.state.team(a).Div == h.state.team(b).Div ? vsDiv
+                                                                         : vsConf;
+        EXPECT_EQ(r.m.Matchups(a, b), games) << a << " v " << b;
+        EXPECT_EQ(r.m.HomeMatchups(a, b), games / 2) << a << " hosting " << b;
+        EXPECT_FALSE(r.m.ExtraGame(a, b));
+      }
     }
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(Minimums, BalancedAllotment,
-                         ::testing::Values(MinimumsCase{6, 2, 2, 66}, MinimumsCase{4, 4, 2, 68},
-                                           MinimumsCase{2, 0, 0, 10}, MinimumsCase{8, 2, 0, 52}));
 
 // Each pair's two hosted counts must add up to its games, or placement cannot
 // use them all up.
@@ -116,11 +106,6 @@ TEST(Allotment, HalfOfAnOddTotalGoesToTheEvenNeighbour) {
   };
   for (Case c : {Case{81, 40}, Case{83, 42}, Case{82, 41}, Case{66, 33}, Case{1, 0}, Case{3, 2}})
     EXPECT_EQ(HalfGamesPerTeam(c.gp), c.half) << c.gp;
-}
-
-TEST(Allotment, ToggleFlipsZeroAndOne) {
-  EXPECT_EQ(Toggle(0), 1);
-  EXPECT_EQ(Toggle(1), 0);
 }
 
 // Two games above the minimum: one more home game each. Partners are taken from
@@ -161,17 +146,10 @@ TEST(Allotment, TotalBelowTheMinimumsFails) {
 }
 
 TEST(Allotment, TeamWithoutConferenceFailsAtOnce) {
-  test::Harness h;
-  test::AlignInMemory(h.state, kDemo);
-  h.state.team(3).Conf = kNoConference;
-  ScheduleParams p = DefaultScheduleParams(24);
-  p.GPTeam = 66;
-  ScheduleMatrices m;
-  AllotGameLog log(h.home, h.clock.now());
-  EXPECT_FALSE(AllotGames(h.state, p, m, log));
-  std::vector<std::string> lines = LogLines(log.path());
-  ASSERT_EQ(lines.size(), 5u);  // date, heading, teams 0 to 2
-  EXPECT_EQ(lines.back().substr(0, 10), "Team2     ");
+  Allotted r = Allot(kDemo, 6, 2, 2, 66, 3);
+  EXPECT_FALSE(r.ok);
+  ASSERT_EQ(r.log.size(), 5u);  // date, heading, teams 0 to 2
+  EXPECT_EQ(r.log.back().substr(0, 10), "Team2     ");
 }
 
 TEST(AllotmentLog, ReadsAsTheAllotmentWentInOrdinaryUse) {

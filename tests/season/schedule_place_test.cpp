@@ -153,13 +153,9 @@ TEST(PlaceGame, BooksTheGameAndWritesItsRecord) {
   pl.game(2, 0);
   GameDayMaker& mk = pl.maker();
   mk.PlaceGame(0, 2);
-  EXPECT_EQ(pl.m.Matchups(0, 2), 1);
-  EXPECT_EQ(pl.m.Matchups(2, 0), 1);
-  EXPECT_EQ(pl.m.HomeMatchups(2, 0), 1);
+  EXPECT_EQ(std::tuple(pl.m.Matchups(0, 2), pl.m.Matchups(2, 0), pl.m.HomeMatchups(2, 0)), std::tuple(1, 1, 1));
   EXPECT_EQ(std::tuple(pl.m.TotalGP[0], pl.m.TotalGP[2], pl.m.HomeGP[2], pl.m.HomeGP[0]), std::tuple(1, 1, 1, 0));
-  EXPECT_EQ(mk.LastHost()(0, 2), 2);
-  EXPECT_EQ(mk.LastHost()(2, 0), 2);
-  EXPECT_EQ(mk.LastHost()(0, 1), kNoHost);
+  EXPECT_EQ(std::tuple(mk.LastHost()(0, 2), mk.LastHost()(2, 0), mk.LastHost()(0, 1)), std::tuple(2, 2, kNoHost));
   EXPECT_TRUE(mk.PlacedToday(0) && mk.PlacedToday(2));
   ASSERT_EQ(pl.records.size(), 1u);
   EXPECT_EQ(std::tuple(pl.records[0].HomeTeam, pl.records[0].AwayTeam, pl.records[0].GameNumber), std::tuple(2, 0, 1));

@@ -99,10 +99,8 @@ TEST(GameFinances, BooksTheGateAndBothTeamsDailyCosts) {
     s.player(sd, 1).Suspended = 0;
     s.player(sd, 2).Salary = 3000000;  // suspended: not paid
     s.player(sd, 2).Suspended = 2;
-    Player& farm = s.player(sd, 25);  // a minor leaguer below TwoWayAfter: a tenth
-    farm = MakePlayer("Farm Hand", kCentre, 50, 0);
+    Player& farm = s.player(sd, 25) = MakePlayer("Farm Hand", kCentre, 50, 0);  // below TwoWayAfter: a tenth
     farm.Salary = 1000000;
-    farm.GP = 0;
     s.team(sd).Coach.Salary = 500000;
     s.team(sd).CurFin = 0;
   }
@@ -111,11 +109,10 @@ TEST(GameFinances, BooksTheGateAndBothTeamsDailyCosts) {
   EXPECT_DOUBLE_EQ(net, 10000 * 25 * 0.6);
   GameFinances(g.game, net, 10000);
   const int daily = (2000000 + 100000 + 500000) / 20;
-  EXPECT_EQ(s.team(1).CurFin, 150000 - daily);
   EXPECT_EQ(s.team(0).CurFin, -daily);
-  EXPECT_EQ(s.team(1).HomeGames, 1);
-  EXPECT_EQ(s.team(1).Attendance, 10000);
-  EXPECT_EQ(s.team(1).Revenue, 150000);
+  const Team& home = s.team(1);
+  EXPECT_EQ(std::tuple(home.CurFin, home.HomeGames, home.Attendance, home.Revenue),
+            std::tuple(150000 - daily, 1, 10000, 150000));
 }
 
 TEST(GameNet, FollowsTheFinancesLevel) {

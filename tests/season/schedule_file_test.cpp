@@ -1,7 +1,9 @@
+// Old schedule files converted on load, and the schedule reviewed by game day.
 #include <gtest/gtest.h>
 
 #include "league/league_files.h"
 #include "season/schedule_file.h"
+#include "season/schedule_review.h"
 #include "support/league_fixture.h"
 #include "util/record_file.h"
 
@@ -51,13 +53,9 @@ TEST(ConvertSchedCheck, ThirteenByteGamesKeepTheirNumbersAndDays) {
   std::vector<ScheduleRecord> g = lg.converted();
   ASSERT_EQ(g.size(), 3u);
   EXPECT_EQ(std::tuple(g[0].HomeTeam, g[0].AwayTeam, g[0].HomeScore, g[0].AwayScore), std::tuple(1, 0, 4, 2));
-  EXPECT_EQ(g[0].GameNumber, 1);
-  EXPECT_EQ(g[0].Played, kTrue);
-  EXPECT_EQ(g[0].DayA, 101);
-  EXPECT_EQ(g[0].GameDay, 201);
-  EXPECT_EQ(g[0].Overtime, 0);
-  EXPECT_EQ(g[1].Overtime, 1);  // its own mark
-  EXPECT_EQ(g[2].Overtime, 1);  // a tie that is not 0-0
+  EXPECT_EQ(std::tuple(g[0].GameNumber, g[0].Played, g[0].DayA, g[0].GameDay), std::tuple(1, kTrue, 101, 201));
+  // Overtime: none, its own mark, and a tie that is not 0-0.
+  EXPECT_EQ(std::tuple(g[0].Overtime, g[1].Overtime, g[2].Overtime), std::tuple(0, 1, 1));
   EXPECT_TRUE(lg.h.state.Dirty);
 }
 
@@ -66,19 +64,12 @@ TEST(ConvertSchedCheck, SixByteGamesAreNumberedAndGivenDays) {
   std::vector<ScheduleRecord> g = lg.converted();
   ASSERT_EQ(g.size(), 5u);
   // Team 1 comes round again at the third game: a new day starts there.
-  std::vector<int> days, numbers;
-  for (const auto& r : g) {
-    days.push_back(r.GameDay);
-    numbers.push_back(r.GameNumber);
-    EXPECT_EQ(r.DayA, r.GameDay);
-  }
-  EXPECT_EQ(days, (std::vector<int>{1, 1, 2, 2, 2}));
-  EXPECT_EQ(numbers, (std::vector<int>{1, 2, 3, 4, 5}));
-  EXPECT_EQ(g[0].Overtime, 1);
-  EXPECT_EQ(g[1].Overtime, 0);
-  EXPECT_EQ(g[2].Overtime, 0);  // 0-0 is a game not yet played
-  EXPECT_EQ(g[1].Played, kTrue);
-  EXPECT_EQ(g[2].Played, kFalse);
+  std::vector<std::tuple<int, int, int>> numberDays;
+  for (const auto& r : g) numberDays.emplace_back(r.GameNumber, r.GameDay, r.DayA);
+  EXPECT_EQ(numberDays, (std::vector<std::tuple<int, int, int>>{{1, 1, 1}, {2, 1, 1}, {3, 2, 2}, {4, 2, 2}, {5, 2, 2}}));
+  // A tie, a win, and 0-0: a game not yet played.
+  EXPECT_EQ(std::tuple(g[0].Overtime, g[1].Overtime, g[2].Overtime, g[1].Played, g[2].Played),
+            std::tuple(1, 0, 0, kTrue, kFalse));
 }
 
 TEST(ConvertSchedCheck, LeavesAloneWhatNeedsNoConversion) {
@@ -111,6 +102,58 @@ TEST(ConvertSchedCheck, TellsOfAnOldScheduleItCannotRead) {
   ASSERT_FALSE(tells.empty());
   EXPECT_EQ(tells.back().title, "Convert Schedule");
   EXPECT_NE(tells.back().text.find("old.scd"), std::string::npos);
+}
+
+ScheduleRecord Game(int number, int home, int away, int hs = -1, int as = 0, bool ot = false) {
+  ScheduleRecord r;
+  r.GameNumber = static_cast<i16>(number);
+  r.HomeTeam = static_cast<u8>(home);
+  r.AwayTeam = static_cast<u8>(away);
+  if (hs >= 0) {
+    r.Played = kTrue;
+    r.HomeScore = static_cast<u8>(hs);
+    r.AwayScore = static_cast<u8>(as);
+    r.Overtime = ot ? 1 : 0;
+  }
+  return r;
+}
+
+struct ReviewLeague {
+  ReviewLeague() {
+    h.load(test::StandardLeague(8));
+    h.state.league.ScheduleMade = kTrue;
+    RecordFile f(h.state.swap(swp::Schedule), ScheduleRecord::kSize);
+    std::vector<ScheduleRecord> games{Game(1, 0, 1, 3, 2), Game(2, 2, 3, 1, 1, true), Game(3, 1, 4), Game(4, 5, 6)};
+    for (std::size_t k = 0; k < games.size(); ++k) f.putRecord(k + 1, games[k]);
+  }
+  std::string printed() {
+    auto prints = h.ui.callsOf("print");
+    return prints.empty() ? "" : prints.back().text;
+  }
+  test::Harness h;
+};
+
+TEST(RevSched, ShowsTheDaysTheDriverWillPlayWithScores) {
+  ReviewLeague lg;
+  ASSERT_TRUE(RevSched(lg.h.state));
+  EXPECT_EQ(lg.printed(),
+            "Game day 1 (2 games)\n"
+            "     1  Team1 2 at Team0 3\n"
+            "     2  Team3 1 at Team2 1 (OT)\n"
+            "Game day 2 (2 games)\n"
+            "     3  Team4 at Team1\n"
+            "     4  Team6 at Team5\n");
+}
+
+TEST(RevSched, OneDayOrNone) {
+  ReviewLeague lg;
+  ASSERT_TRUE(RevSched(lg.h.state, 2));
+  EXPECT_EQ(lg.printed().substr(0, 20), "Game day 2 (2 games)");
+  EXPECT_FALSE(RevSched(lg.h.state, 3));
+  EXPECT_TRUE(lg.h.ui.told("There is no game day 3: the schedule has 2 game days.", "Review Schedule"));
+  lg.h.state.league.ScheduleMade = kFalse;
+  ASSERT_TRUE(RevSched(lg.h.state));
+  EXPECT_EQ(lg.printed(), "No Schedule\n");
 }
 
 }  // namespace
