@@ -81,68 +81,49 @@ TEST(NewSchedule, TopUpGamesArePlacedToo) {
   EXPECT_TRUE(faults.empty()) << faults.front();
 }
 
-TEST(NewSchedule, RefusesAnUnbalancedLeagueBeforeAnything) {
-  FormLeague lg({{7, 7}, {6, 6}});
-  ScheduleForm form(lg.h.state);
-  League before = lg.h.state.league;
-  EXPECT_EQ(form.cmdNewSchedule(), ScheduleOutcome::Refused);
-  EXPECT_TRUE(lg.h.ui.told(
-      "Your league is currently unbalanced. The variance of teams per conference or division should not be larger "
-      "than one. You can correct this by using the League|Align League option and adding or removing one team.",
-      "Make Schedule"));
-  EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before));
-  EXPECT_FALSE(fs::exists(lg.h.home / "AllotGameLog.txt"));
-}
-
-TEST(NewSchedule, AsksBeforeReplacingASchedule) {
-  FormLeague lg;
-  lg.h.state.league.ScheduleMade = kTrue;
-  lg.h.ui.push("no");
-  ScheduleForm form(lg.h.state);
-  EXPECT_EQ(form.cmdNewSchedule(), ScheduleOutcome::Refused);
-  auto asks = lg.h.ui.callsOf("ask");
-  ASSERT_EQ(asks.size(), 1u);
-  EXPECT_EQ(asks[0].text,
-            "This will reset the current league. All schedule information and accumulated stats will be lost. "
-            "Continue?");
-  EXPECT_EQ(asks[0].title, "Make Schedule");
-  EXPECT_FALSE(fs::exists(lg.h.home / "AllotGameLog.txt"));
-}
-
-TEST(NewSchedule, AllotmentFailureChangesNothing) {
-  FormLeague lg;
-  Bytes schedule(31, 1);
-  WriteFileAtomic(lg.scx(), schedule);
-  lg.h.state.league.GamesPlayed = 12;
-  League before = lg.h.state.league;
-  ScheduleForm form(lg.h.state);
-  form.setParam(ScheduleParam::GPTeam, 60);
-  EXPECT_EQ(form.cmdNewSchedule(), ScheduleOutcome::AllotFailed);
-  EXPECT_TRUE(lg.h.ui.told("Attempt to allot a set of games failed. \n"
-                           "This usually occurs when you have odd-numbered matchups, or asymmetric league alignments.\n"
-                           "Please try a different set of schedule parameters and/or more symmetric league alignment.",
-                           "Game Allotment Failed"));
-  EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before));
-  EXPECT_EQ(ReadFileBytes(lg.scx()), schedule);
-}
-
-// 9 teams at 29 games make 130.5 games in all: the count never meets that, and
-// the days run dry.
-TEST(NewSchedule, FractionalTotalEndsUnableToPlace) {
-  FormLeague lg({{3, 2}, {2, 2}});
-  League before = lg.h.state.league;
-  ScheduleForm form(lg.h.state);
-  form.setParam(ScheduleParam::GPTeam, form.suggested() + 3);
-  ScheduleOutcome out = form.cmdNewSchedule();
-  ASSERT_EQ(out, ScheduleOutcome::PlacementFailed);
-  auto tells = lg.h.ui.callsOf("tell");
-  ASSERT_FALSE(tells.empty());
-  EXPECT_EQ(tells.back().title, "Make Schedule Error");
-  EXPECT_EQ(tells.back().text.rfind("Scheduler is unable to place game ", 0), 0u);
-  EXPECT_NE(tells.back().text.find(" in a game day without conflict.\nYou must change your schedule parameters and "
-                                   "try to make a schedule again."),
-            std::string::npos);
-  EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before));
+// A press that makes nothing says why and leaves the header as it was; until
+// placement begins the schedule file is untouched too.
+TEST(NewSchedule, FailedPressesChangeNothing) {
+  struct Row {
+    Alignment a;
+    bool scheduleMade;
+    int gpOverSuggested;
+    ScheduleOutcome out;
+    const char* title;
+    std::string said;  // what is told or asked, or how it begins
+  };
+  const std::vector<Row> rows{
+      {{{7, 7}, {6, 6}}, false, 0, ScheduleOutcome::Refused, "Make Schedule",
+       "Your league is currently unbalanced. The variance of teams per conference or division should not be larger "
+       "than one. You can correct this by using the League|Align League option and adding or removing one team."},
+      {kDemo, true, 0, ScheduleOutcome::Refused, "Make Schedule",
+       "This will reset the current league. All schedule information and accumulated stats will be lost. Continue?"},
+      {kDemo, false, -6, ScheduleOutcome::AllotFailed, "Game Allotment Failed",
+       "Attempt to allot a set of games failed. \nThis usually occurs when you have odd-numbered matchups, or "
+       "asymmetric league alignments.\nPlease try a different set of schedule parameters and/or more symmetric "
+       "league alignment."},
+      // 9 teams at 29 games make 130.5 games in all: the count never meets that, and the days run dry.
+      {{{3, 2}, {2, 2}}, false, 3, ScheduleOutcome::PlacementFailed, "Make Schedule Error",
+       "Scheduler is unable to place game "},
+  };
+  for (const Row& r : rows) {
+    FormLeague lg(r.a);
+    lg.h.state.league.ScheduleMade = r.scheduleMade ? kTrue : kFalse;
+    lg.h.state.league.GamesPlayed = 12;
+    lg.h.ui.push("no");
+    const Bytes schedule(31, 1);
+    WriteFileAtomic(lg.scx(), schedule);
+    const League before = lg.h.state.league;
+    ScheduleForm form(lg.h.state);
+    form.setParam(ScheduleParam::GPTeam, form.suggested() + r.gpOverSuggested);
+    EXPECT_EQ(form.cmdNewSchedule(), r.out) << r.title;
+    ASSERT_FALSE(lg.h.ui.calls().empty());
+    EXPECT_EQ(lg.h.ui.calls().back().title, r.title);
+    EXPECT_EQ(lg.h.ui.calls().back().text.rfind(r.said, 0), 0u) << lg.h.ui.calls().back().text;
+    EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before)) << r.title;
+    EXPECT_EQ(fs::exists(lg.h.home / "AllotGameLog.txt"), r.out != ScheduleOutcome::Refused) << r.title;
+    EXPECT_TRUE(r.out == ScheduleOutcome::PlacementFailed || ReadFileBytes(lg.scx()) == schedule) << r.title;
+  }
 }
 
 TEST(EarlierSchedule, NumbersItsDaysAndMakesTheAllottedGames) {

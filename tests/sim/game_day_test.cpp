@@ -34,23 +34,15 @@ TEST(GameDay, EndsWhereATeamWouldPlayTwice) {
   EXPECT_EQ(PlayedFlags(lg.h), (std::vector<int>{1, 1, 1, 1}));
 }
 
-TEST(GameDay, TheLastRecordEndsTheDayAndTheSeasonWithResultsAsTheTeamRecords) {
+// (That the results agree with the team records is checked over a whole season
+// played by the kvl program.)
+TEST(GameDay, TheLastRecordEndsTheDayAndTheSeason) {
   ScheduledLeague lg({{0, 1}, {2, 3}});
   Games games(lg.h.state);
   ASSERT_TRUE(games.MultipleGames());
   EXPECT_TRUE(games.IsSeasonOver);
   EXPECT_TRUE(lg.h.state.league.SeasonOver);
   EXPECT_EQ(lg.page("TodayGames.html").find("Next Games"), std::string::npos);
-  for (const ScheduleRecord& r : ReadSchedule(lg.h.state.swap(swp::Schedule))) {
-    const Team& home = lg.h.state.team(r.HomeTeam);
-    const Team& away = lg.h.state.team(r.AwayTeam);
-    EXPECT_EQ(home.GF, r.HomeScore);
-    EXPECT_EQ(away.GF, r.AwayScore);
-    EXPECT_EQ(home.GA, away.GF);
-    EXPECT_EQ(home.W[0] + home.L[0] + home.T[0], 1);
-    EXPECT_EQ(home.W[0], away.L[0]);
-    EXPECT_TRUE(fs::exists(lg.h.home / "Transfer" / ("test" + std::to_string(r.GameNumber) + ".html")));
-  }
   EXPECT_FALSE(games.MultipleGames());
   EXPECT_EQ(lg.h.ui.calls().back().text, "Season is over");
 }
