@@ -80,6 +80,15 @@ TEST(Pages, TheSiteAfterTwoDays) {
   });
   EXPECT_NE(leaders.find(" 1." + best->p.Name.str() + " (" + lg.h.state.team(best->team).Name.str() + ")"),
             std::string::npos);
+  // Header files replace the heading; the waivers page takes footer 20.
+  WriteText(lg.h.home / "Headers" / "test.hd1", "<P>OUR HEADER</P>\r\n");
+  WriteText(lg.h.home / "Headers" / "test.ft11", "<P>NOT THIS</P>\r\n");
+  WriteText(lg.h.home / "Headers" / "test.ft20", "<P>WAIVER FOOTER</P>\r\n");
+  lg.publish();
+  EXPECT_NE(lg.page("Standings.html").find("<P>OUR HEADER</P>\r\n<P>(As of"), std::string::npos);
+  EXPECT_EQ(lg.page("Standings.html").find("<H2>Standings</H2>"), std::string::npos);
+  EXPECT_NE(lg.page("Waivers.html").find("<P>WAIVER FOOTER</P>\r\n</HTML>"), std::string::npos);
+  EXPECT_EQ(lg.page("Waivers.html").find("NOT THIS"), std::string::npos);
 }
 
 TEST(Pages, NamesWithMarkupStayText) {
@@ -110,20 +119,6 @@ TEST(Pages, NoGamesPlayedGivesEmptyTables) {
   EXPECT_NE(standings.find(" <A HREF=testRosters.html#Team3>Team3</A>         0   0   0   0   0    0   0   N/A"),
             std::string::npos);
   EXPECT_NE(ReadAll(h.home / "Transfer" / "testTeamStats.html").find("N/A"), std::string::npos);
-}
-
-TEST(Pages, HeaderFilesReplaceTheHeadingAndWaiversTakeFooter20) {
-  Published lg;
-  fs::create_directories(lg.h.home / "Headers");
-  WriteText(lg.h.home / "Headers" / "test.hd1", "<P>OUR HEADER</P>\r\n");
-  WriteText(lg.h.home / "Headers" / "test.ft11", "<P>NOT THIS</P>\r\n");
-  WriteText(lg.h.home / "Headers" / "test.ft20", "<P>WAIVER FOOTER</P>\r\n");
-  lg.publish();
-  std::string standings = lg.page("Standings.html"), waivers = lg.page("Waivers.html");
-  EXPECT_NE(standings.find("<P>OUR HEADER</P>\r\n<P>(As of"), std::string::npos);
-  EXPECT_EQ(standings.find("<H2>Standings</H2>"), std::string::npos);
-  EXPECT_NE(waivers.find("<P>WAIVER FOOTER</P>\r\n</HTML>"), std::string::npos);
-  EXPECT_EQ(waivers.find("NOT THIS"), std::string::npos);
 }
 
 // After game days the stored flags pick the groups: any non-zero flag counts,
