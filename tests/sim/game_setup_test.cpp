@@ -1,5 +1,6 @@
 // Setting up a game: scaled ratings, goalie floors, checking classes, the line
 // sums, substitutes and the line chosen by manpower.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/sim_league.h"
@@ -7,8 +8,18 @@
 namespace kvl::test {
 namespace {
 
+using testing::FloatEq;
+using testing::Pointwise;
+
 void SetRatings(Player& p, int level) {
   for (int i = 0; i < 13; ++i) p.rating(i) = static_cast<u8>(level);
+}
+
+// The scaled ratings of these kinds for one slot of a side.
+std::vector<float> Scaled(GameFixture& f, int sd, int slot, std::initializer_list<int> kinds) {
+  std::vector<float> out;
+  for (int k : kinds) out.push_back(f.side(sd).Scaled[static_cast<std::size_t>(k)][static_cast<std::size_t>(slot)]);
+  return out;
 }
 
 TEST(SetupGame, ScalesByConditionAndCoachWithFloorAt2_5) {
@@ -21,17 +32,11 @@ TEST(SetupGame, ScalesByConditionAndCoachWithFloorAt2_5) {
   Coach& coach = plan.coaches[0];
   coach.LD = 40, coach.DF = 95, coach.EX = 95, coach.OF = 100;
   GameFixture f(plan);
-  const auto& s = f.side(0).Scaled;
-  EXPECT_FLOAT_EQ(s[kSpd][0], 3.5f);
-  EXPECT_FLOAT_EQ(s[kInt][0], 2.5f);  // 3.5 - 1.0 is not above 2.5
-  EXPECT_FLOAT_EQ(s[kDef][0], 4.0f);
-  EXPECT_FLOAT_EQ(s[kExp][0], 4.5f);
-  EXPECT_FLOAT_EQ(s[kPcc][0], 4.5f);
-  EXPECT_FLOAT_EQ(s[kSco][0], 4.1f);
+  // Int: 3.5 - 1.0 is not above 2.5.
+  EXPECT_THAT(Scaled(f, 0, 0, {kSpd, kInt, kDef, kExp, kPcc, kSco}),
+              Pointwise(FloatEq(), {3.5f, 2.5f, 4.0f, 4.5f, 4.5f, 4.1f}));
   // A goalie takes the coach's Int, Def and Exp but not the scoring terms.
-  EXPECT_FLOAT_EQ(s[kInt][kFirstG], 6.0f);
-  EXPECT_FLOAT_EQ(s[kPcc][kFirstG], 7.0f);
-  EXPECT_FLOAT_EQ(s[kSco][kFirstG], 7.0f);
+  EXPECT_THAT(Scaled(f, 0, kFirstG, {kInt, kPcc, kSco}), Pointwise(FloatEq(), {6.0f, 7.0f, 7.0f}));
   plan.header.OptCoach = kFalse;  // the coach option off: no coach is read
   EXPECT_FLOAT_EQ(GameFixture(plan).side(0).Scaled[kInt][0], 3.5f);
 }
@@ -43,10 +48,8 @@ TEST(SetupGame, GoalieSpeedFloorIsCrossedWithPuckControl) {
   plan.rosters[0][kFirstG].rating(kSpd) = 50;
   plan.rosters[0][kFirstG].rating(kPcc) = 80;
   GameFixture f(plan);
-  EXPECT_FLOAT_EQ(f.side(1).Scaled[kSpd][kFirstG], 7.0f);  // lowered, not raised
-  EXPECT_FLOAT_EQ(f.side(1).Scaled[kPcc][kFirstG], 6.0f);
-  EXPECT_FLOAT_EQ(f.side(0).Scaled[kSpd][kFirstG], 7.0f);
-  EXPECT_FLOAT_EQ(f.side(0).Scaled[kPcc][kFirstG], 8.0f);
+  EXPECT_THAT(Scaled(f, 1, kFirstG, {kSpd, kPcc}), Pointwise(FloatEq(), {7.0f, 6.0f}));  // lowered, not raised
+  EXPECT_THAT(Scaled(f, 0, kFirstG, {kSpd, kPcc}), Pointwise(FloatEq(), {7.0f, 8.0f}));
 }
 
 TEST(SetupGame, OverworkedGoalieStartsTiredAndOnlyTheLineUpIsDressed) {
@@ -88,10 +91,8 @@ TEST(SetLine, SumsDivideByFilledSeatsButCheckingIsATotal) {
   f.game.SetLine(0, 6);  // C, W, D, D and an empty fifth seat
   const GameSide& s = f.side(0);
   EXPECT_EQ(s.OnIce, (std::array<u8, 5>{0, 4, 12, 14, kNoPlayer}));
-  EXPECT_EQ(s.LineToughness, 18);  // 6 + (12.4 - 6) + 6, four times, over four
-  EXPECT_EQ(s.LineDiscipline, 6);
-  EXPECT_EQ(s.LineDurability, 18);
-  EXPECT_EQ(s.LineChecking, 4);
+  // Toughness: 6 + (12.4 - 6) + 6, four times, over four.
+  EXPECT_EQ(std::tuple(s.LineToughness, s.LineDiscipline, s.LineDurability, s.LineChecking), std::tuple(18, 6, 18, 4));
   EXPECT_EQ(s.Status[8], kOnBench);  // the old line left the ice
 }
 

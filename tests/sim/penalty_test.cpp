@@ -2,6 +2,7 @@
 // goalie changes, fights and ejections.
 #include <gtest/gtest.h>
 
+#include <numeric>
 #include <set>
 
 #include "sim/penalty_tables.h"
@@ -19,12 +20,10 @@ TEST_F(PenaltyTest, SelfServedMinorReturnsToTheBenchWhenItEnds) {
   s.PenaltyKind[5] = kMinor;
   s.Box(5);
   for (int i = 0; i < 23; ++i) g.Tick();
-  EXPECT_EQ(s.MenInBox, 1);
-  EXPECT_EQ(s.Status[5], kInBox);
+  EXPECT_EQ(std::tuple(s.MenInBox, s.Status[5]), std::tuple(1, kInBox));
   g.Tick();
-  EXPECT_EQ(s.MenInBox, 0);
+  EXPECT_EQ(std::tuple(s.MenInBox, s.BoxTicks[5]), std::tuple(0, 0));
   EXPECT_NE(s.Status[5], kInBox);  // on the bench, or already sent out by a line change
-  EXPECT_EQ(s.BoxTicks[5], 0);
   s.BoxTicks[6] = 10;
   s.Box(6);
   g.Clock = 1196;
@@ -97,18 +96,12 @@ TEST(PenaltyWeight, ByLineAndLevel) {
 }
 
 TEST_F(PenaltyTest, TextsByFlagsAndPosition) {
-  PenaltyCall c;
-  c.offender = 0;
-  c.kind = kMajor;
-  c.extra = 5;
-  EXPECT_EQ(g.PenaltyText(0, c, false, true), "(FIGHTING)");
-  c.extra = 15;
-  EXPECT_EQ(g.PenaltyText(0, c, false, true), "(FIGHTING, Misconduct)");
-  c.ejected = true;
-  EXPECT_EQ(g.PenaltyText(0, c, false, true), "(FIGHTING, Game Misconduct)");
+  EXPECT_EQ(g.PenaltyText(0, {.offender = 0, .kind = kMajor, .extra = 5}, false, true), "(FIGHTING)");
+  EXPECT_EQ(g.PenaltyText(0, {.offender = 0, .kind = kMajor, .extra = 15}, false, true), "(FIGHTING, Misconduct)");
+  EXPECT_EQ(g.PenaltyText(0, {.offender = 0, .kind = kMajor, .extra = 15, .ejected = true}, false, true),
+            "(FIGHTING, Game Misconduct)");
   std::set<std::string> goalie, defence, forward;
-  c = PenaltyCall{};
-  c.kind = kMinor;
+  PenaltyCall c{.kind = kMinor};
   for (int i = 0; i < 300; ++i) {
     c.offender = kFirstG;
     goalie.insert(g.PenaltyText(0, c, false, false));
@@ -120,16 +113,13 @@ TEST_F(PenaltyTest, TextsByFlagsAndPosition) {
   // A goalie draws rows 7..10 only; a defenceman never interferes with a goalie.
   EXPECT_EQ(goalie, (std::set<std::string>{"(ROUGHING, Minor)", "(UNSPORTSMANLIKE-CONDUCT, Minor)",
                                            "(DELAY-OF-GAME, Minor)"}));
-  EXPECT_EQ(defence.count("(GOALIE INTERERENCE, Minor)"), 0u);
-  EXPECT_EQ(forward.count("(GOALIE INTERERENCE, Minor)"), 1u);
-  EXPECT_EQ(forward.count("(DELAY-OF-GAME, Minor)"), 0u);
+  EXPECT_EQ(std::tuple(defence.count("(GOALIE INTERERENCE, Minor)"), forward.count("(GOALIE INTERERENCE, Minor)"),
+                       forward.count("(DELAY-OF-GAME, Minor)")),
+            std::tuple(0u, 1u, 0u));
 }
 
 TEST_F(PenaltyTest, GoaliePenaltyIsServedBySomebodyElse) {
-  std::array<PenaltyCall, 2> calls{};
-  calls[1].offender = kFirstG;
-  calls[1].minutes = 2;
-  calls[1].kind = kMinor;
+  std::array<PenaltyCall, 2> calls{PenaltyCall{}, {.offender = kFirstG, .minutes = 2, .kind = kMinor}};
   g.BookPenalty(1, calls[1], calls, false);
   const GameSide& s = f.side(1);
   EXPECT_EQ(std::tuple(s.Goalie, s.BoxTicks[kFirstG]), std::tuple(kFirstG, 0));
@@ -146,14 +136,9 @@ TEST_F(PenaltyTest, GoaliePenaltyIsServedBySomebodyElse) {
 }
 
 TEST_F(PenaltyTest, EjectedSkaterIsNotedAndServedFor) {
-  std::array<PenaltyCall, 2> calls{};
-  PenaltyCall& c = calls[0];
-  c.offender = 4;
-  c.minutes = 5;
-  c.kind = kMajor;
-  c.extra = 10;
-  c.ejected = c.toBeSuspended = true;
-  g.BookPenalty(0, c, calls, false);
+  std::array<PenaltyCall, 2> calls{
+      PenaltyCall{.offender = 4, .minutes = 5, .kind = kMajor, .extra = 10, .ejected = true, .toBeSuspended = true}};
+  g.BookPenalty(0, calls[0], calls, false);
   const GameSide& s = f.side(0);
   EXPECT_EQ(std::tuple(s.Status[4], s.PIM[4], s.BoxTicks[4]), std::tuple(kEjectedSuspend, 15, 0));
   EXPECT_EQ(g.Notes.back(), "T0 L 1 ejected at 1:40 of the 1st Period<BR>");
@@ -187,14 +172,9 @@ TEST_F(PenaltyTest, EventsKeepTheBooks) {
     g.PenaltyEvent();
     for (int sd = 0; sd < 2; ++sd) {
       const GameSide& s = f.side(sd);
-      int pim = 0;
-      for (int p : s.PIM) pim += p;
-      EXPECT_EQ(pim, s.TeamPIM);
+      EXPECT_EQ(std::accumulate(s.PIM.begin(), s.PIM.end(), 0), s.TeamPIM);
       EXPECT_NE(s.Status[s.Goalie], kOnIce);
-      for (u8 p : s.OnIce) {
-        if (p == kNoPlayer) continue;
-        EXPECT_NE(f.h.state.player(sd, p).Pos, kGoalie);
-      }
+      for (u8 p : s.OnIce) EXPECT_TRUE(p == kNoPlayer || f.h.state.player(sd, p).Pos != kGoalie);
     }
     for (int t = 0; t < 6; ++t) g.Tick();
   }
