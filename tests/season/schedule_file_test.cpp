@@ -81,11 +81,7 @@ TEST(ConvertSchedCheck, LeavesAloneWhatNeedsNoConversion) {
   }
   {
     // A league with a current schedule keeps it.
-    ScheduleRecord current;
-    current.HomeTeam = 7;
-    current.AwayTeam = 6;
-    current.GameNumber = 1;
-    Bytes scx = EncodeRecord(current);
+    Bytes scx = EncodeRecord(ScheduleRecord{.HomeTeam = 7, .AwayTeam = 6, .GameNumber = 1});
     OldScheduleLeague lg(Concat(std::vector{Old6(0, 1)}), &scx);
     std::vector<ScheduleRecord> g = lg.converted();
     ASSERT_EQ(g.size(), 1u);
@@ -104,26 +100,17 @@ TEST(ConvertSchedCheck, TellsOfAnOldScheduleItCannotRead) {
   EXPECT_NE(tells.back().text.find("old.scd"), std::string::npos);
 }
 
-ScheduleRecord Game(int number, int home, int away, int hs = -1, int as = 0, bool ot = false) {
-  ScheduleRecord r;
-  r.GameNumber = static_cast<i16>(number);
-  r.HomeTeam = static_cast<u8>(home);
-  r.AwayTeam = static_cast<u8>(away);
-  if (hs >= 0) {
-    r.Played = kTrue;
-    r.HomeScore = static_cast<u8>(hs);
-    r.AwayScore = static_cast<u8>(as);
-    r.Overtime = ot ? 1 : 0;
-  }
-  return r;
-}
 
 struct ReviewLeague {
   ReviewLeague() {
     h.load(test::StandardLeague(8));
     h.state.league.ScheduleMade = kTrue;
     RecordFile f(h.state.swap(swp::Schedule), ScheduleRecord::kSize);
-    std::vector<ScheduleRecord> games{Game(1, 0, 1, 3, 2), Game(2, 2, 3, 1, 1, true), Game(3, 1, 4), Game(4, 5, 6)};
+    const std::vector<ScheduleRecord> games{
+        {.HomeTeam = 0, .HomeScore = 3, .AwayTeam = 1, .AwayScore = 2, .Played = kTrue, .GameNumber = 1},
+        {.HomeTeam = 2, .HomeScore = 1, .AwayTeam = 3, .AwayScore = 1, .Played = kTrue, .GameNumber = 2, .Overtime = 1},
+        {.HomeTeam = 1, .AwayTeam = 4, .GameNumber = 3},
+        {.HomeTeam = 5, .AwayTeam = 6, .GameNumber = 4}};
     for (std::size_t k = 0; k < games.size(); ++k) f.putRecord(k + 1, games[k]);
   }
   std::string printed() {
@@ -133,7 +120,7 @@ struct ReviewLeague {
   test::Harness h;
 };
 
-TEST(RevSched, ShowsTheDaysTheDriverWillPlayWithScores) {
+TEST(RevSched, ShowsTheDaysTheDriverWillPlayWithScoresOrOneDayOrNone) {
   ReviewLeague lg;
   ASSERT_TRUE(RevSched(lg.h.state));
   EXPECT_EQ(lg.printed(),
@@ -143,10 +130,6 @@ TEST(RevSched, ShowsTheDaysTheDriverWillPlayWithScores) {
             "Game day 2 (2 games)\n"
             "     3  Team4 at Team1\n"
             "     4  Team6 at Team5\n");
-}
-
-TEST(RevSched, OneDayOrNone) {
-  ReviewLeague lg;
   ASSERT_TRUE(RevSched(lg.h.state, 2));
   EXPECT_EQ(lg.printed().substr(0, 20), "Game day 2 (2 games)");
   EXPECT_FALSE(RevSched(lg.h.state, 3));
