@@ -59,32 +59,26 @@ struct GateGame : GameFixture {
 
 TEST(Attendance, WorkedByHand) {
   struct Row {
-    int awayConf, awayDiv;
+    int awayConf, awayDiv, ticket, seats;
     double rivalry;
+    bool full;
     const char* why;
   } rows[] = {
-      {1, 0, 1.0, "another conference"},
-      {0, 1, 1.0, "the same conference, another division"},
-      {0, 0, 1.04, "a division rival draws more"},
+      {1, 0, 25, 30000, 1.0, false, "another conference"},
+      {0, 1, 25, 30000, 1.0, false, "the same conference, another division"},
+      {0, 0, 25, 30000, 1.04, false, "a division rival draws more"},
+      {1, 0, 25, 9000, 1.0, true, "capped by the seats"},
+      {1, 0, 0, 40000, 1.0, false, "ticket 0 reads as 20, seats above 32,767 as unsigned"},
   };
   for (const Row& r : rows) {
     GateGame g;
     g.h.state.team(0).Conf = static_cast<u8>(r.awayConf), g.h.state.team(0).Div = static_cast<u8>(r.awayDiv);
-    const double noise = g.Noise();
-    const double expected = 25 / std::pow(25.0, 1.05) * 17000 * 1.125 * (0.56 / 2 + 0.75) * r.rivalry * noise;
-    EXPECT_EQ(Attendance(g.game), static_cast<int>(std::floor(expected))) << r.why;
+    g.h.state.team(1).Ticket = static_cast<u8>(r.ticket);
+    g.h.state.team(1).Seats = static_cast<i16>(r.seats);
+    const double noise = g.Noise(), price = r.ticket ? r.ticket : 20;
+    const double expected = 25 / std::pow(price, 1.05) * 17000 * 1.125 * (0.56 / 2 + 0.75) * r.rivalry * noise;
+    EXPECT_EQ(Attendance(g.game), r.full ? r.seats : static_cast<int>(std::floor(expected))) << r.why;
   }
-}
-
-TEST(Attendance, IsCappedBySeatsAndReadsTicketZeroAsTwenty) {
-  GateGame g;
-  g.h.state.team(1).Seats = 9000;
-  EXPECT_EQ(Attendance(g.game), 9000);
-  g.h.state.team(1).Seats = static_cast<i16>(40000);
-  g.h.state.team(1).Ticket = 0;
-  const double noise = g.Noise();
-  const double expected = 25 / std::pow(20.0, 1.05) * 17000 * 1.125 * 1.03 * noise;
-  EXPECT_EQ(Attendance(g.game), static_cast<int>(std::floor(expected)));
 }
 
 TEST(GameFinances, BooksTheGateAndBothTeamsDailyCosts) {
