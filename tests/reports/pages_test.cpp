@@ -58,10 +58,10 @@ void ExpectPageShape(const std::string& name, const std::string& text) {
 TEST(Pages, TheSiteAfterTwoDays) {
   Published lg;
   EXPECT_EQ(lg.publish(), 23);
-  for (const char* name : {"TeamStats.html", "Standings.html", "Rosters.html", "Leaders.html", "TeamScoring.html",
-                           "Injury.html", "Finance.html", "Futures.html", "Schedule.html", "Lines.html",
-                           "Individual.html", "Waivers.html", "PlayerVitals.html", "Coaches.html", "Transact.html",
-                           "GMs.html"})
+  for (const char* name :
+       {"TeamStats.html", "Standings.html", "Rosters.html", "Leaders.html", "TeamScoring.html", "Injury.html",
+        "Finance.html", "Futures.html", "Schedule.html", "Lines.html", "Individual.html", "Waivers.html",
+        "PlayerVitals.html", "Coaches.html", "Transact.html", "GMs.html"})
     ExpectGolden(__FILE__, name, lg.page(name));
   for (const std::string& f : lg.files())
     if (f.ends_with(".html") && f != "testTodayGames.html" && !std::isdigit(static_cast<unsigned char>(f[4])))

@@ -72,7 +72,10 @@ TEST(Standings, PointsFollowThePointSystemAndClassicInThePlayoffs) {
 // The first team of each division moves to the head; only team and points
 // travel, the other columns stay with their place.
 TEST(Standings, SeedingMovesTeamAndPointsOnly) {
-  RankLeague lg({{5, 0, 0, 20, 5, 0, 0}, {4, 1, 0, 15, 8, 0, 0}, {3, 2, 0, 12, 10, 0, 1}, {2, 3, 0, 9, 9, 1, 0},
+  RankLeague lg({{5, 0, 0, 20, 5, 0, 0},
+                 {4, 1, 0, 15, 8, 0, 0},
+                 {3, 2, 0, 12, 10, 0, 1},
+                 {2, 3, 0, 9, 9, 1, 0},
                  {1, 4, 0, 6, 12, 1, 1}});
   lg.h.state.league.Conf[0].NumDivs = 2;  // four leaders seeded
   lg.h.state.league.SeedDivLeaders = kTrue;
@@ -141,7 +144,6 @@ TEST(Standings, WalkOfPlayedGames) {
   EXPECT_EQ(std::vector<int>({zero.L10W, zero.L10L, zero.L10T, zero.seen}), std::vector<int>({1, 1, 1, 3}));
 }
 
-
 RosterEntry Scorer(int gp, int g, int a, const std::string& name) {
   RosterEntry e;
   e.p = MakePlayer(name, kCentre, 50);
@@ -185,7 +187,7 @@ TEST(Leaders, MinGoalieGP) {
     int round, minimum;
   };
   // Four tenths of the average team's games, rounded half up; the round in the playoffs.
-  const std::vector<Case> cases{{4, 0, false, 0, 0}, {4, 2, false, 0, 0},  {4, 4, false, 0, 1},
+  const std::vector<Case> cases{{4, 0, false, 0, 0},     {4, 2, false, 0, 0},   {4, 4, false, 0, 1},
                                 {24, 792, false, 0, 26}, {24, 30, false, 0, 1}, {24, 792, true, 3, 3}};
   for (const Case& c : cases) {
     Harness h;
@@ -196,7 +198,6 @@ TEST(Leaders, MinGoalieGP) {
     EXPECT_EQ(MinGoalieGP(h.state), c.minimum) << c.teams << " teams, " << c.gamesPlayed << " games";
   }
 }
-
 
 TEST(Payroll, WhoIsPaidAndHowMuch) {
   struct Case {
@@ -234,7 +235,7 @@ TEST(Payroll, ProspectFeesAreInHundreds) {
   list.Name[0].set("A");
   list.Salary[0] = 250;
   list.Name[1].set("B");
-  list.Salary[1] = -5;  // a negative fee is no fee
+  list.Salary[1] = -5;   // a negative fee is no fee
   list.Salary[2] = 900;  // no name, no fee
   EXPECT_EQ(ProspectFees(h.state, 0), 25000);
 }

@@ -27,7 +27,7 @@ TEST(SeedOrder, PointsThenWinsThenGoalDifferenceThenTeamOrder) {
       {10, 10, 0, 55, 50},  // 20 points, as many wins, better difference
       {10, 10, 0, 50, 50},  // equal to team 0 in all three: behind it
       {11, 9, 0, 40, 60},   // 22 points
-      {0, 20, 0, 0, 0},     {0, 20, 0, 0, 0}, {0, 20, 0, 0, 0},
+      {0, 20, 0, 0, 0},    {0, 20, 0, 0, 0}, {0, 20, 0, 0, 0},
   };
   for (int t = 0; t < 8; ++t) {
     const auto& [w, l, ties, gf, ga] = rows[t];

@@ -62,9 +62,9 @@ TEST(Allotment, EveryPairMeetsAsTheMinimumsAsk) {
       EXPECT_EQ(r.m.HomeGP[a], gamesPerTeam / 2);
       for (int b = 0; b < 24; ++b) {
         if (a == b) continue;
-        const int games = h.state.team(a).Conf != h.state.team(b).Conf   ? vsLg
+        const int games = h.state.team(a).Conf != h.state.team(b).Conf ? vsLg
                           : h.state.team(a).Div == h.state.team(b).Div ? vsDiv
-                                                                         : vsConf;
+                                                                       : vsConf;
         EXPECT_EQ(r.m.Matchups(a, b), games) << a << " v " << b;
         EXPECT_EQ(r.m.HomeMatchups(a, b), games / 2) << a << " hosting " << b;
         EXPECT_FALSE(r.m.ExtraGame(a, b));

@@ -1,8 +1,9 @@
 // Old schedule files converted on load, and the schedule reviewed by game day.
+#include "season/schedule_file.h"
+
 #include <gtest/gtest.h>
 
 #include "league/league_files.h"
-#include "season/schedule_file.h"
 #include "season/schedule_review.h"
 #include "support/league_fixture.h"
 #include "util/record_file.h"
@@ -41,8 +42,9 @@ i16 PlayedMark(u8 hs, u8 as) { return (hs || as) ? kTrue : kFalse; }
 
 // Day fields 100 + n and 200 + n, to see where each goes.
 ScheduleRecord13 Old13(u8 home, u8 away, i16 number, u8 hs = 0, u8 as = 0, u8 ot = 0) {
-  return {home, hs, away, as, number, PlayedMark(hs, as), static_cast<i16>(100 + number),
-          static_cast<i16>(200 + number), ot};
+  return {
+      home, hs, away, as, number, PlayedMark(hs, as), static_cast<i16>(100 + number), static_cast<i16>(200 + number),
+      ot};
 }
 
 ScheduleRecord6 Old6(u8 home, u8 away, u8 hs = 0, u8 as = 0) { return {home, hs, away, as, PlayedMark(hs, as)}; }
@@ -66,7 +68,8 @@ TEST(ConvertSchedCheck, SixByteGamesAreNumberedAndGivenDays) {
   // Team 1 comes round again at the third game: a new day starts there.
   std::vector<std::tuple<int, int, int>> numberDays;
   for (const auto& r : g) numberDays.emplace_back(r.GameNumber, r.GameDay, r.DayA);
-  EXPECT_EQ(numberDays, (std::vector<std::tuple<int, int, int>>{{1, 1, 1}, {2, 1, 1}, {3, 2, 2}, {4, 2, 2}, {5, 2, 2}}));
+  EXPECT_EQ(numberDays,
+            (std::vector<std::tuple<int, int, int>>{{1, 1, 1}, {2, 1, 1}, {3, 2, 2}, {4, 2, 2}, {5, 2, 2}}));
   // A tie, a win, and 0-0: a game not yet played.
   EXPECT_EQ(std::tuple(g[0].Overtime, g[1].Overtime, g[2].Overtime, g[1].Played, g[2].Played),
             std::tuple(1, 0, 0, kTrue, kFalse));
@@ -99,7 +102,6 @@ TEST(ConvertSchedCheck, TellsOfAnOldScheduleItCannotRead) {
   EXPECT_EQ(tells.back().title, "Convert Schedule");
   EXPECT_NE(tells.back().text.find("old.scd"), std::string::npos);
 }
-
 
 struct ReviewLeague {
   ReviewLeague() {

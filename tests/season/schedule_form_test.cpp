@@ -1,10 +1,11 @@
+#include "season/schedule_form.h"
+
 #include <gtest/gtest.h>
 
 #include "league/league_files.h"
+#include "season/reset_league.h"
 #include "season/schedule_allot.h"
 #include "season/schedule_file.h"
-#include "season/schedule_form.h"
-#include "season/reset_league.h"
 #include "support/league_fixture.h"
 #include "support/schedule_checker.h"
 #include "support/schedule_leagues.h"
@@ -93,7 +94,11 @@ TEST(NewSchedule, FailedPressesChangeNothing) {
     std::string said;  // what is told or asked, or how it begins
   };
   const std::vector<Row> rows{
-      {{{7, 7}, {6, 6}}, false, 0, ScheduleOutcome::Refused, "Make Schedule",
+      {{{7, 7}, {6, 6}},
+       false,
+       0,
+       ScheduleOutcome::Refused,
+       "Make Schedule",
        "Your league is currently unbalanced. The variance of teams per conference or division should not be larger "
        "than one. You can correct this by using the League|Align League option and adding or removing one team."},
       {kDemo, true, 0, ScheduleOutcome::Refused, "Make Schedule",
@@ -103,7 +108,11 @@ TEST(NewSchedule, FailedPressesChangeNothing) {
        "asymmetric league alignments.\nPlease try a different set of schedule parameters and/or more symmetric "
        "league alignment."},
       // 9 teams at 29 games make 130.5 games in all: the count never meets that, and the days run dry.
-      {{{3, 2}, {2, 2}}, false, 3, ScheduleOutcome::PlacementFailed, "Make Schedule Error",
+      {{{3, 2}, {2, 2}},
+       false,
+       3,
+       ScheduleOutcome::PlacementFailed,
+       "Make Schedule Error",
        "Scheduler is unable to place game "},
   };
   for (const Row& r : rows) {

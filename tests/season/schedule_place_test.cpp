@@ -84,8 +84,10 @@ TEST(MakeGameDay, EndsWhenTheCountMeetsTheDrawAndNeverOffersTheLastPlaceOfEither
                  Case{4, 2, 3, 2, 0, "the last home place never hosts"},
                  Case{4, 2, 2, 3, 0, "the last total place is never the opponent"}}) {
     Placement pl(c.n, c.gpDay);
-    if (c.home < 0) pl.allPairs();
-    else pl.game(c.home, c.away);
+    if (c.home < 0)
+      pl.allPairs();
+    else
+      pl.game(c.home, c.away);
     EXPECT_EQ(pl.maker().MakeGameDay(), c.games) << c.why;
   }
 }

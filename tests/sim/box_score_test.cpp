@@ -39,9 +39,9 @@ TEST_F(SeededGame, SeasonPageCarriesTheMoneyAndStarPointsGoToTheSeason) {
   auto lines = BoxScoreLines(game, info);
   auto at = std::find(lines.begin(), lines.end(), "<BR><B>Financial</B><P>");
   ASSERT_NE(at, lines.end());
-  EXPECT_EQ(std::vector<std::string>(at + 1, at + 4), (std::vector<std::string>{"Attendance: 15000<BR>",
-                                                                               "Net Profit: $600,000.00<BR>",
-                                                                               "<BR><B>Game Notes</B><P>"}));
+  EXPECT_EQ(
+      std::vector<std::string>(at + 1, at + 4),
+      (std::vector<std::string>{"Attendance: 15000<BR>", "Net Profit: $600,000.00<BR>", "<BR><B>Game Notes</B><P>"}));
   auto stars = PickStars(game);
   ASSERT_EQ(stars.size(), 3u);
   EXPECT_EQ(WriteBoxScore(game, info).filename(), "test3.html");

@@ -160,13 +160,12 @@ TEST(ChooseSubstitute, SparesFirstThenFreshestOfPositionThenAnySkater) {
 }
 
 TEST(NextLine, PicksTheUnitForTheSituation) {
-  const int rows[][5] = {
-      // own box, other box, current line, shift cycle, line chosen
-      {0, 0, 0, 0, 1},  {0, 0, 1, 4, 3},  {0, 0, 3, 8, 0},
-      {1, 1, 9, 1, 2},                                     // 4 on 4 rotates
-      {0, 1, 0, 0, 4},  {0, 1, 4, 0, 5},  {0, 1, 5, 0, 5},  // 5 on 4 stays on the second unit
-      {1, 2, 0, 0, 6},  {0, 2, 6, 0, 5},                    // 4 on 3; 5 on 3 plays the 5 on 4 units
-      {1, 0, 0, 0, 8},  {1, 0, 8, 0, 9},  {1, 0, 9, 0, 9},  {2, 0, 0, 0, 10}, {3, 0, 10, 0, 11}, {2, 0, 11, 0, 11}};
+  const int rows[][5] = {// own box, other box, current line, shift cycle, line chosen
+                         {0, 0, 0, 0, 1},   {0, 0, 1, 4, 3},  {0, 0, 3, 8, 0}, {1, 1, 9, 1, 2},  // 4 on 4 rotates
+                         {0, 1, 0, 0, 4},   {0, 1, 4, 0, 5},  {0, 1, 5, 0, 5},  // 5 on 4 stays on the second unit
+                         {1, 2, 0, 0, 6},   {0, 2, 6, 0, 5},                    // 4 on 3; 5 on 3 plays the 5 on 4 units
+                         {1, 0, 0, 0, 8},   {1, 0, 8, 0, 9},  {1, 0, 9, 0, 9}, {2, 0, 0, 0, 10},
+                         {3, 0, 10, 0, 11}, {2, 0, 11, 0, 11}};
   GameFixture f(SimLeague(4));
   GameSide& s = f.side(0);
   for (const auto& r : rows) {

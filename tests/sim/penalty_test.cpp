@@ -84,7 +84,7 @@ TEST_F(PenaltyTest, ReleaseMinorTakesTheShortestMinorAndOnlyASecondHalfOfADouble
 
 // Dis 7.5: (12.5 - 7.5)^2 = 25 before the line factor.
 TEST(PenaltyWeight, ByLineAndLevel) {
-  const double rows[][3] = {{0, 5, 17.5}, {1, 5, 25},   {2, 5, 32.5}, {3, 5, 32.5},
+  const double rows[][3] = {{0, 5, 17.5}, {1, 5, 25},    {2, 5, 32.5}, {3, 5, 32.5},
                             {4, 5, 17.5}, {11, 5, 17.5}, {1, 9, 65},   {1, 1, -15}};  // line, level, weight
   GameFixture f(SimLeague(4));
   f.side(0).Scaled[kDis][3] = 7.5f;

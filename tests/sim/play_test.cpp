@@ -31,10 +31,12 @@ TEST(Lapse, OddsHalveForEachConditionAndAtOneEveryPlayerLapses) {
 
 TEST(PlayTexts, ClockOrdinalsAndShortNames) {
   const std::pair<std::string, std::string> rows[] = {
-      {ClockText(0), "0:00"},          {ClockText(59), "0:59"},        {ClockText(60), "1:00"},
-      {ClockText(606), "10:06"},       {ClockText(1201), "20:01"},     {OrdinalPeriod(1), "1st Period"},
-      {OrdinalPeriod(2), "2nd Period"}, {OrdinalPeriod(3), "3rd Period"}, {OrdinalPeriod(4), "4 Period"},
-      {ShortName("Jean Van Dyke"), "J. Van Dyke"}, {ShortName("Pele"), "Pele"}};
+      {ClockText(0), "0:00"},           {ClockText(59), "0:59"},
+      {ClockText(60), "1:00"},          {ClockText(606), "10:06"},
+      {ClockText(1201), "20:01"},       {OrdinalPeriod(1), "1st Period"},
+      {OrdinalPeriod(2), "2nd Period"}, {OrdinalPeriod(3), "3rd Period"},
+      {OrdinalPeriod(4), "4 Period"},   {ShortName("Jean Van Dyke"), "J. Van Dyke"},
+      {ShortName("Pele"), "Pele"}};
   for (const auto& [text, expected] : rows) EXPECT_EQ(text, expected);
 }
 

@@ -27,7 +27,8 @@ TEST(SimCommands, ExhibitionWritesANewPageEachTimeAndChangesNothing) {
 
 TEST(SimCommands, ProfileReportsTheSlidersOfTheRun) {
   CliLeague lg(SimLeague(4));
-  ProgramRun r = lg.kvl({"sim-profile", "--games", "20", "--pair", "0", "1", "--shots-level", "7", "--goals-level", "3"});
+  ProgramRun r =
+      lg.kvl({"sim-profile", "--games", "20", "--pair", "0", "1", "--shots-level", "7", "--goals-level", "3"});
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_NE(r.out.find("20 games; ShotsLevel 7, GoalsLevel 3, PenaltiesLevel 5, InjuriesLevel 5"), std::string::npos);
   for (const char* row : {"Goals", "Shots", "Power plays", "Power-play goals", "Penalty minutes", "Fights",

@@ -47,7 +47,8 @@ std::vector<std::string> CheckMadeSchedule(const std::filesystem::path& scx, int
   if (static_cast<std::size_t>(header.LeagueGames) != f.records)
     faults.push_back(fmt::format("LeagueGames is {} but the file holds {} games", header.LeagueGames, f.records));
   if (!f.numberedFromOne) faults.push_back("records are not numbered 1, 2, 3, ...");
-  if (!(withDays ? f.freshButDays : f.freshRecords)) faults.push_back("a fresh record carries a score, a played mark or a day");
+  if (!(withDays ? f.freshButDays : f.freshRecords))
+    faults.push_back("a fresh record carries a score, a played mark or a day");
   for (int a = 0; a < n; ++a)
     for (int b = 0; b < n; ++b) {
       int games = f.games[static_cast<std::size_t>(a)][static_cast<std::size_t>(b)];
