@@ -25,7 +25,7 @@ KvlRun Kvl(const CliLeague& lg, const std::string& args) {
 
 bool Has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
-TEST(MakeScheduleCommand, MakesAndSavesTheDemoAlignmentsSchedule) {
+TEST(MakeScheduleCommand, MakesAndSavesTheDemoAlignmentsScheduleAndHelpsWithEachOption) {
   CliLeague lg(AlignedLeague({{6, 6}, {6, 6}}));
   KvlRun r = Kvl(lg, "--yes make-schedule --tries 20");
   ASSERT_EQ(r.rc, 0) << r.out;
@@ -40,6 +40,12 @@ TEST(MakeScheduleCommand, MakesAndSavesTheDemoAlignmentsSchedule) {
   KvlRun beyond = Kvl(lg, "review-schedule --day 5000");
   EXPECT_EQ(beyond.rc, 1);
   EXPECT_TRUE(Has(beyond.out, "There is no game day 5000")) << beyond.out;
+  EXPECT_EQ(Kvl(lg, "review-schedule --help").rc, 0);
+  KvlRun help = Kvl(lg, "make-schedule --help");
+  EXPECT_EQ(help.rc, 0);
+  for (const char* opt : {"--div", "--conf", "--lg", "--gp", "--gp-day", "--variance", "--var-total", "--var-home",
+                          "--exhibition", "--tries"})
+    EXPECT_TRUE(Has(help.out, opt)) << opt;
 }
 
 TEST(MakeScheduleCommand, ReportsTheSystemsRefusals) {
@@ -74,16 +80,6 @@ TEST(MakeScheduleCommand, PressesAgainOnlyWhilePlacementFails) {
   for (std::size_t at = 0; (at = r.out.find("Scheduler is unable to place game", at)) != std::string::npos; ++at)
     ++presses;
   EXPECT_EQ(presses, 3u) << r.out;
-}
-
-TEST(ScheduleCommands, EachHasHelp) {
-  CliLeague lg(StandardLeague(8));
-  EXPECT_EQ(Kvl(lg, "review-schedule --help").rc, 0);
-  KvlRun r = Kvl(lg, "make-schedule --help");
-  EXPECT_EQ(r.rc, 0);
-  for (const char* opt : {"--div", "--conf", "--lg", "--gp", "--gp-day", "--variance", "--var-total", "--var-home",
-                          "--exhibition", "--tries"})
-    EXPECT_TRUE(Has(r.out, opt)) << opt;
 }
 
 }  // namespace
