@@ -7,33 +7,18 @@
 
 #include "league/league_files.h"
 #include "season/schedule_file.h"
-#include "support/found_cli.h"
-#include "support/league_fixture.h"
+#include "support/league_cli.h"
 #include "support/schedule_leagues.h"
 
 namespace kvl::test {
 namespace {
-
-struct SeasonCli {
-  SeasonCli() {
-    fs::create_directories(dir.path() / "league");
-    path = (dir.path() / "league" / "season").string();
-    WriteLeague(AlignedLeague({{2, 2}, {2, 2}}), path);
-  }
-  ProgramRun kvl(std::vector<std::string> args) {
-    args.insert(args.begin(), {"--home", (dir.path() / "home").string(), "--league", path + ".lge", "--seed", "3"});
-    return RunKvl(args, dir.path() / "scratch");
-  }
-  TempDir dir;
-  std::string path;
-};
 
 struct Record {
   int w = 0, l = 0, t = 0, gf = 0, ga = 0;
 };
 
 TEST(PlayGamesCommand, PlaysASeasonWhoseRecordsAgree) {
-  SeasonCli lg;
+  CliLeague lg(AlignedLeague({{2, 2}, {2, 2}}), "season", {"--seed", "3"});
   ASSERT_EQ(lg.kvl({"--yes", "make-schedule"}).status, 0);
   EXPECT_EQ(lg.kvl({"--yes", "play-games", "--days", "0"}).status, 2) << "not a positive count";
   EXPECT_EQ(lg.kvl({"--yes", "play-games", "--days", "two"}).status, 2);
@@ -54,7 +39,7 @@ TEST(PlayGamesCommand, PlaysASeasonWhoseRecordsAgree) {
   std::map<int, Record> fromSchedule;
   for (const ScheduleRecord& g : games) {
     ASSERT_NE(g.Played, 0) << "game " << g.GameNumber;
-    EXPECT_TRUE(fs::exists(lg.dir.path() / "home" / "Transfer" / ("season" + std::to_string(g.GameNumber) + ".html")));
+    EXPECT_TRUE(fs::exists(lg.home / "Transfer" / ("season" + std::to_string(g.GameNumber) + ".html")));
     Record &home = fromSchedule[g.HomeTeam], &away = fromSchedule[g.AwayTeam];
     home.gf += g.HomeScore, home.ga += g.AwayScore, away.gf += g.AwayScore, away.ga += g.HomeScore;
     if (g.HomeScore == g.AwayScore)

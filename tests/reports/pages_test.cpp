@@ -3,45 +3,27 @@
 // flags and the header files change.
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "league/league_files.h"
-#include "reports/auto_output.h"
-#include "reports/output_form.h"
 #include "reports/html.h"
-#include "reports/page_groups.h"
+#include "reports/output_form.h"
 #include "reports/player_lists.h"
-#include "reports/standings_rank.h"
+#include "season/points.h"
 #include "sim/game_day.h"
 #include "support/golden.h"
 #include "support/sim_league.h"
-#include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
 
-// Four teams, three days of two games each.
-struct Published {
-  explicit Published(const LeaguePlan& plan = SimLeague(4), int days = 2) {
-    h.state.rnd.setMasterSeed(7);
-    h.load(plan);
-    const std::vector<std::pair<int, int>> games{{0, 1}, {2, 3}, {1, 2}, {3, 0}, {2, 0}, {1, 3}};
-    RecordFile f(h.state.swap(swp::Schedule), ScheduleRecord::kSize);
-    for (std::size_t i = 0; i < games.size(); ++i) {
-      ScheduleRecord r;
-      r.AwayTeam = static_cast<u8>(games[i].first);
-      r.HomeTeam = static_cast<u8>(games[i].second);
-      r.GameNumber = static_cast<i16>(i + 1);
-      f.putRecord(i + 1, r);
-    }
-    h.state.league.ScheduleMade = kTrue;
-    h.state.league.LeagueGames = static_cast<i16>(games.size());
+// Four teams, three days of two games each, `days` of them played.
+struct Published : ScheduledLeague {
+  explicit Published(const LeaguePlan& plan = SimLeague(4), int days = 2)
+      : ScheduledLeague({{0, 1}, {2, 3}, {1, 2}, {3, 0}, {2, 0}, {1, 3}}, plan) {
     Games play(h.state);
     for (int d = 0; d < days; ++d) play.MultipleGames();
   }
   int publish() { return WritePageGroups(h.state, AllPageGroups(), true); }
   fs::path transfer() const { return h.home / "Transfer"; }
-  std::string page(const std::string& name) const { return ReadAll(transfer() / ("test" + name)); }
   std::vector<std::string> files() const {
     std::vector<std::string> out;
     if (!fs::exists(transfer())) return out;
@@ -49,38 +31,7 @@ struct Published {
     std::sort(out.begin(), out.end());
     return out;
   }
-  Harness h;
 };
-
-TEST(Pages, OneKeptPagePerGroup) {
-  Published lg;
-  lg.publish();
-  for (const char* name : {"TeamStats.html", "Standings.html", "Rosters.html", "Leaders.html", "TeamScoring.html",
-                           "Injury.html", "Finance.html", "Futures.html", "Schedule.html", "Lines.html",
-                           "Individual.html", "Waivers.html", "PlayerVitals.html", "Coaches.html", "Transact.html",
-                           "GMs.html"})
-    ExpectGolden(__FILE__, name, lg.page(name));
-}
-
-// What the pages say agrees with the records they are made from.
-TEST(Pages, StandingsAndLeadersAgreeWithTheRecords) {
-  Published lg;
-  lg.publish();
-  const std::string standings = lg.page("Standings.html"), leaders = lg.page("Leaders.html");
-  for (int t = 0; t < 4; ++t) {
-    const Team& team = lg.h.state.team(t);
-    std::string figures = Fill(team.W[0], 4) + Fill(team.L[0], 4) + Fill(team.T[0], 4) +
-                          Fill(TeamPoints(lg.h.state.league, team), 4) + Fill(team.GF, 5) + Fill(team.GA, 4);
-    EXPECT_NE(standings.find(team.Name.str() + "</A>" + std::string(5, ' ') + Fill(2, 5) + figures), std::string::npos)
-        << team.Name.str() << figures;
-  }
-  std::vector<RosterEntry> all = AllPlayers(lg.h.state);
-  auto best = std::max_element(all.begin(), all.end(), [](const RosterEntry& a, const RosterEntry& b) {
-    return a.p.Pos == kGoalie || (b.p.Pos != kGoalie && OutScores(b.p, a.p));
-  });
-  EXPECT_NE(leaders.find(" 1." + best->p.Name.str() + " (" + lg.h.state.team(best->team).Name.str() + ")"),
-            std::string::npos);
-}
 
 // Lexically sound: every tag closes before the next opens, and the frame is there.
 void ExpectPageShape(const std::string& name, const std::string& text) {
@@ -102,12 +53,42 @@ void ExpectPageShape(const std::string& name, const std::string& text) {
   EXPECT_FALSE(inTag);
 }
 
-TEST(Pages, EveryPageHasTheFrame) {
+// One kept page per group, the frame on every page, and figures that agree
+// with the records they are made from.
+TEST(Pages, TheSiteAfterTwoDays) {
   Published lg;
   EXPECT_EQ(lg.publish(), 23);
+  for (const char* name :
+       {"TeamStats.html", "Standings.html", "Rosters.html", "Leaders.html", "TeamScoring.html", "Injury.html",
+        "Finance.html", "Futures.html", "Schedule.html", "Lines.html", "Individual.html", "Waivers.html",
+        "PlayerVitals.html", "Coaches.html", "Transact.html", "GMs.html"})
+    ExpectGolden(__FILE__, name, lg.page(name));
   for (const std::string& f : lg.files())
     if (f.ends_with(".html") && f != "testTodayGames.html" && !std::isdigit(static_cast<unsigned char>(f[4])))
       ExpectPageShape(f, lg.page(f.substr(4)));
+  const std::string standings = lg.page("Standings.html"), leaders = lg.page("Leaders.html");
+  for (int t = 0; t < 4; ++t) {
+    const Team& team = lg.h.state.team(t);
+    std::string figures = Fill(team.W[0], 4) + Fill(team.L[0], 4) + Fill(team.T[0], 4) +
+                          Fill(TeamPoints(lg.h.state.league, team), 4) + Fill(team.GF, 5) + Fill(team.GA, 4);
+    EXPECT_NE(standings.find(team.Name.str() + "</A>" + std::string(5, ' ') + Fill(2, 5) + figures), std::string::npos)
+        << team.Name.str() << figures;
+  }
+  std::vector<RosterEntry> all = AllPlayers(lg.h.state);
+  auto best = std::max_element(all.begin(), all.end(), [](const RosterEntry& a, const RosterEntry& b) {
+    return a.p.Pos == kGoalie || (b.p.Pos != kGoalie && OutScores(b.p, a.p));
+  });
+  EXPECT_NE(leaders.find(" 1." + best->p.Name.str() + " (" + lg.h.state.team(best->team).Name.str() + ")"),
+            std::string::npos);
+  // Header files replace the heading; the waivers page takes footer 20.
+  WriteText(lg.h.home / "Headers" / "test.hd1", "<P>OUR HEADER</P>\r\n");
+  WriteText(lg.h.home / "Headers" / "test.ft11", "<P>NOT THIS</P>\r\n");
+  WriteText(lg.h.home / "Headers" / "test.ft20", "<P>WAIVER FOOTER</P>\r\n");
+  lg.publish();
+  EXPECT_NE(lg.page("Standings.html").find("<P>OUR HEADER</P>\r\n<P>(As of"), std::string::npos);
+  EXPECT_EQ(lg.page("Standings.html").find("<H2>Standings</H2>"), std::string::npos);
+  EXPECT_NE(lg.page("Waivers.html").find("<P>WAIVER FOOTER</P>\r\n</HTML>"), std::string::npos);
+  EXPECT_EQ(lg.page("Waivers.html").find("NOT THIS"), std::string::npos);
 }
 
 TEST(Pages, NamesWithMarkupStayText) {
@@ -138,20 +119,6 @@ TEST(Pages, NoGamesPlayedGivesEmptyTables) {
   EXPECT_NE(standings.find(" <A HREF=testRosters.html#Team3>Team3</A>         0   0   0   0   0    0   0   N/A"),
             std::string::npos);
   EXPECT_NE(ReadAll(h.home / "Transfer" / "testTeamStats.html").find("N/A"), std::string::npos);
-}
-
-TEST(Pages, HeaderFilesReplaceTheHeadingAndWaiversTakeFooter20) {
-  Published lg;
-  fs::create_directories(lg.h.home / "Headers");
-  WriteText(lg.h.home / "Headers" / "test.hd1", "<P>OUR HEADER</P>\r\n");
-  WriteText(lg.h.home / "Headers" / "test.ft11", "<P>NOT THIS</P>\r\n");
-  WriteText(lg.h.home / "Headers" / "test.ft20", "<P>WAIVER FOOTER</P>\r\n");
-  lg.publish();
-  std::string standings = lg.page("Standings.html"), waivers = lg.page("Waivers.html");
-  EXPECT_NE(standings.find("<P>OUR HEADER</P>\r\n<P>(As of"), std::string::npos);
-  EXPECT_EQ(standings.find("<H2>Standings</H2>"), std::string::npos);
-  EXPECT_NE(waivers.find("<P>WAIVER FOOTER</P>\r\n</HTML>"), std::string::npos);
-  EXPECT_EQ(waivers.find("NOT THIS"), std::string::npos);
 }
 
 // After game days the stored flags pick the groups: any non-zero flag counts,

@@ -18,35 +18,22 @@
 namespace kvl::test {
 namespace {
 
-struct Line {
-  int w, l, t, otw, otl, gf, ga;
-};
-
-Team Record(const Line& r) {
-  Team t;
-  t.W = {static_cast<u8>(r.w), static_cast<u8>(r.otw), 0};
-  t.L = {static_cast<u8>(r.l), static_cast<u8>(r.otl), 0};
-  t.T = {static_cast<u8>(r.t), 0, 0};
-  t.GF = static_cast<i16>(r.gf);
-  t.GA = static_cast<i16>(r.ga);
-  return t;
-}
-
 TEST(SeedOrder, PointsThenWinsThenGoalDifferenceThenTeamOrder) {
   Harness h;
   h.load(AlignedLeague({{2, 2}, {2, 2}}));
-  const Line lines[] = {
-      {10, 10, 0, 0, 0, 50, 50},  // 20 points
-      {9, 9, 2, 0, 0, 60, 40},    // 20 points, fewer wins
-      {10, 10, 0, 0, 0, 55, 50},  // 20 points, as many wins, better difference
-      {10, 10, 0, 0, 0, 50, 50},  // equal to team 0 in all three: behind it
-      {11, 9, 0, 0, 0, 40, 60},   // 22 points
-      {0, 20, 0, 0, 0, 0, 0},    {0, 20, 0, 0, 0, 0, 0}, {0, 20, 0, 0, 0, 0, 0},
+  const int rows[][5] = {
+      {10, 10, 0, 50, 50},  // 20 points
+      {9, 9, 2, 60, 40},    // 20 points, fewer wins
+      {10, 10, 0, 55, 50},  // 20 points, as many wins, better difference
+      {10, 10, 0, 50, 50},  // equal to team 0 in all three: behind it
+      {11, 9, 0, 40, 60},   // 22 points
+      {0, 20, 0, 0, 0},    {0, 20, 0, 0, 0}, {0, 20, 0, 0, 0},
   };
   for (int t = 0; t < 8; ++t) {
-    Team r = Record(lines[t]);
+    const auto& [w, l, ties, gf, ga] = rows[t];
     Team& team = h.state.team(t);
-    team.W = r.W, team.L = r.L, team.T = r.T, team.GF = r.GF, team.GA = r.GA;
+    team.W[0] = static_cast<u8>(w), team.L[0] = static_cast<u8>(l), team.T[0] = static_cast<u8>(ties);
+    team.GF = static_cast<i16>(gf), team.GA = static_cast<i16>(ga);
   }
   EXPECT_EQ(SeedOrder(h.state), (std::vector<int>{4, 2, 0, 3, 1, 5, 6, 7}));
 }
@@ -164,16 +151,19 @@ TEST(GrowthClass, RangesByAge) {
   }
 }
 
-TEST(RerateOne, ClampsEvenTheRatingsAGoalieSkips) {
+TEST(RerateOne, ClampsEvenTheRatingsAGoalieSkipsAndA99DoesNotGrow) {
   Rnd rnd(5);
   Player g = MakePlayer("Old Goalie", kGoalie, 60);
   g.Age = 45;
   g.rating(kDef) = 10;
   g.rating(kSco) = 120;
   RerateOne(rnd, g);
-  EXPECT_EQ(g.rating(kDef), 25);
-  EXPECT_EQ(g.rating(kSco), 99);
+  EXPECT_EQ(std::tuple(g.rating(kDef), g.rating(kSco)), std::tuple(25, 99));
   for (int i = 0; i <= kSco; ++i) EXPECT_GE(g.rating(i), 25);
+  Player p = MakePlayer("Young Star", kCentre, 99);
+  p.Age = 16;  // grows by class 2 to 4
+  RerateOne(rnd, p);
+  for (int i = 0; i <= kSco; ++i) EXPECT_EQ(p.rating(i), 99);
 }
 
 TEST(RerateOne, TheOldestLoseMostButNeverBelowTheFloor) {
@@ -192,14 +182,6 @@ TEST(RerateOne, TheOldestLoseMostButNeverBelowTheFloor) {
   EXPECT_EQ(lowest, 25);
 }
 
-TEST(RerateOne, ARatingOf99DoesNotGrow) {
-  Rnd rnd(11);
-  Player p = MakePlayer("Young Star", kCentre, 99);
-  p.Age = 16;  // grows by class 2 to 4
-  RerateOne(rnd, p);
-  for (int i = 0; i <= kSco; ++i) EXPECT_EQ(p.rating(i), 99);
-}
-
 TEST(AgeLeague, OneYearOlderAndContractsRunDownButNotBelowZero) {
   Harness h;
   h.load(AlignedLeague({{2, 2}, {2, 2}}));
@@ -210,9 +192,8 @@ TEST(AgeLeague, OneYearOlderAndContractsRunDownButNotBelowZero) {
   SaveTeam(h.state, 0, 0);
   AgeLeague(h.state);
   loadteam(h.state, 0, 0);
-  EXPECT_EQ(h.state.player(0, 0).Contract, 0);
-  EXPECT_EQ(h.state.player(0, 1).Contract, 2);
-  EXPECT_EQ(h.state.player(0, 1).Age, age + 1);
+  EXPECT_EQ(std::tuple(h.state.player(0, 0).Contract, h.state.player(0, 1).Contract, h.state.player(0, 1).Age),
+            std::tuple(0, 2, age + 1));
 }
 
 }  // namespace

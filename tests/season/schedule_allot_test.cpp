@@ -31,9 +31,10 @@ std::vector<std::string> LogLines(const fs::path& file) {
 }
 
 // Allots with the given minimums; GPTeam is the suggestion unless given.
-Allotted Allot(const Alignment& a, int vsDiv, int vsConf, int vsLg, int gpTeam = 0) {
+Allotted Allot(const Alignment& a, int vsDiv, int vsConf, int vsLg, int gpTeam = 0, int unaligned = -1) {
   test::Harness h;
   test::AlignInMemory(h.state, a);
+  if (unaligned >= 0) h.state.team(unaligned).Conf = kNoConference;
   ScheduleParams p = DefaultScheduleParams(h.state.numTeams());
   p.vsDiv = vsDiv;
   p.vsConf = vsConf;
@@ -46,68 +47,53 @@ Allotted Allot(const Alignment& a, int vsDiv, int vsConf, int vsLg, int gpTeam =
   return r;
 }
 
-int Relation(const LeagueState& s, int a, int b, int vsDiv, int vsConf, int vsLg) {
-  if (s.team(a).Conf != s.team(b).Conf) return vsLg;
-  return s.team(a).Div == s.team(b).Div ? vsDiv : vsConf;
-}
-
-struct MinimumsCase {
-  int vsDiv, vsConf, vsLg, gamesPerTeam;
-};
-
-class BalancedAllotment : public ::testing::TestWithParam<MinimumsCase> {};
-
 // In a balanced league at the suggested total every pair meets exactly as the
 // minimums ask, split evenly, and no top-up game is needed.
-TEST_P(BalancedAllotment, EveryPairMeetsAsTheMinimumsAsk) {
-  const MinimumsCase& c = GetParam();
+TEST(Allotment, EveryPairMeetsAsTheMinimumsAsk) {
+  const int rows[][4] = {{6, 2, 2, 66}, {4, 4, 2, 68}, {2, 0, 0, 10}, {8, 2, 0, 52}};  // div, conf, lg, games
   test::Harness h;
   test::AlignInMemory(h.state, kDemo);
-  ASSERT_EQ(*SuggestedGamesPerTeam(h.state, c.vsDiv, c.vsConf, c.vsLg), c.gamesPerTeam);
-  Allotted r = Allot(kDemo, c.vsDiv, c.vsConf, c.vsLg);
-  ASSERT_TRUE(r.ok);
-  for (int a = 0; a < 24; ++a) {
-    EXPECT_EQ(r.m.TotalGP[a], c.gamesPerTeam);
-    EXPECT_EQ(r.m.HomeGP[a], c.gamesPerTeam / 2);
-    for (int b = 0; b < 24; ++b) {
-      if (a == b) continue;
-      int games = Relation(h.state, a, b, c.vsDiv, c.vsConf, c.vsLg);
-      EXPECT_EQ(r.m.Matchups(a, b), games) << a << " v " << b;
-      EXPECT_EQ(r.m.HomeMatchups(a, b), games / 2) << a << " hosting " << b;
-      EXPECT_FALSE(r.m.ExtraGame(a, b));
+  for (const auto& [vsDiv, vsConf, vsLg, gamesPerTeam] : rows) {
+    ASSERT_EQ(*SuggestedGamesPerTeam(h.state, vsDiv, vsConf, vsLg), gamesPerTeam);
+    Allotted r = Allot(kDemo, vsDiv, vsConf, vsLg);
+    ASSERT_TRUE(r.ok);
+    for (int a = 0; a < 24; ++a) {
+      EXPECT_EQ(r.m.TotalGP[a], gamesPerTeam);
+      EXPECT_EQ(r.m.HomeGP[a], gamesPerTeam / 2);
+      for (int b = 0; b < 24; ++b) {
+        if (a == b) continue;
+        const int games = h.state.team(a).Conf != h.state.team(b).Conf ? vsLg
+                          : h.state.team(a).Div == h.state.team(b).Div ? vsDiv
+                                                                       : vsConf;
+        EXPECT_EQ(r.m.Matchups(a, b), games) << a << " v " << b;
+        EXPECT_EQ(r.m.HomeMatchups(a, b), games / 2) << a << " hosting " << b;
+        EXPECT_FALSE(r.m.ExtraGame(a, b));
+      }
     }
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Minimums, BalancedAllotment,
-                         ::testing::Values(MinimumsCase{6, 2, 2, 66}, MinimumsCase{4, 4, 2, 68},
-                                           MinimumsCase{2, 0, 0, 10}, MinimumsCase{8, 2, 0, 52}));
-
 // Each pair's two hosted counts must add up to its games, or placement cannot
-// use them all up.
-int PairsOutOfStep(const Allotted& r, int n) {
-  int bad = 0;
-  for (int a = 0; a < n; ++a)
-    for (int b = a + 1; b < n; ++b)
-      if (r.m.HomeMatchups(a, b) + r.m.HomeMatchups(b, a) != r.m.Matchups(a, b)) ++bad;
-  return bad;
-}
-
-TEST(Allotment, OddDivisionCountSplitsEachPairBetweenItsTwoHosts) {
-  Allotted r = Allot(kDemo, 5, 2, 2);
-  ASSERT_TRUE(r.ok);
-  EXPECT_EQ(PairsOutOfStep(r, 24), 0);
-  for (int a = 0; a < 24; ++a) EXPECT_EQ(r.m.HomeGP[a], 31);
-}
-
-// The inter-conference parity runs on across the whole order, so an odd count of
+// use them all up. An odd division count splits each pair between its hosts. The
+// inter-conference parity runs on across the whole order, so an odd count of
 // such games splits evenly only when the first conference has an even number of
 // teams; otherwise every inter-conference pair is out of step.
-TEST(Allotment, OddInterConferenceCountNeedsAnEvenFirstConference) {
-  Allotted even = Allot(kDemo, 6, 2, 3);
-  EXPECT_EQ(PairsOutOfStep(even, 24), 0);
-  Allotted odd = Allot({{6, 5}, {6, 6}}, 6, 2, 3);
-  EXPECT_EQ(PairsOutOfStep(odd, 23), 11 * 12);
+TEST(Allotment, OddCountsSplitBetweenTheTwoHosts) {
+  struct Row {
+    Alignment a;
+    int vsDiv, vsLg, outOfStep;
+  } rows[] = {{kDemo, 5, 2, 0}, {kDemo, 6, 3, 0}, {{{6, 5}, {6, 6}}, 6, 3, 11 * 12}};
+  for (const Row& r : rows) {
+    Allotted allotted = Allot(r.a, r.vsDiv, 2, r.vsLg);
+    const int n = test::TeamCount(r.a);
+    int bad = 0;
+    for (int a = 0; a < n; ++a)
+      for (int b = a + 1; b < n; ++b)
+        bad += allotted.m.HomeMatchups(a, b) + allotted.m.HomeMatchups(b, a) != allotted.m.Matchups(a, b);
+    EXPECT_EQ(bad, r.outOfStep) << n << " teams, " << r.vsDiv << " " << r.vsLg;
+  }
+  Allotted r = Allot(kDemo, 5, 2, 2);
+  for (int a = 0; a < 24; ++a) EXPECT_EQ(r.m.HomeGP[a], 31);
 }
 
 TEST(Allotment, HalfOfAnOddTotalGoesToTheEvenNeighbour) {
@@ -116,11 +102,6 @@ TEST(Allotment, HalfOfAnOddTotalGoesToTheEvenNeighbour) {
   };
   for (Case c : {Case{81, 40}, Case{83, 42}, Case{82, 41}, Case{66, 33}, Case{1, 0}, Case{3, 2}})
     EXPECT_EQ(HalfGamesPerTeam(c.gp), c.half) << c.gp;
-}
-
-TEST(Allotment, ToggleFlipsZeroAndOne) {
-  EXPECT_EQ(Toggle(0), 1);
-  EXPECT_EQ(Toggle(1), 0);
 }
 
 // Two games above the minimum: one more home game each. Partners are taken from
@@ -161,17 +142,10 @@ TEST(Allotment, TotalBelowTheMinimumsFails) {
 }
 
 TEST(Allotment, TeamWithoutConferenceFailsAtOnce) {
-  test::Harness h;
-  test::AlignInMemory(h.state, kDemo);
-  h.state.team(3).Conf = kNoConference;
-  ScheduleParams p = DefaultScheduleParams(24);
-  p.GPTeam = 66;
-  ScheduleMatrices m;
-  AllotGameLog log(h.home, h.clock.now());
-  EXPECT_FALSE(AllotGames(h.state, p, m, log));
-  std::vector<std::string> lines = LogLines(log.path());
-  ASSERT_EQ(lines.size(), 5u);  // date, heading, teams 0 to 2
-  EXPECT_EQ(lines.back().substr(0, 10), "Team2     ");
+  Allotted r = Allot(kDemo, 6, 2, 2, 66, 3);
+  EXPECT_FALSE(r.ok);
+  ASSERT_EQ(r.log.size(), 5u);  // date, heading, teams 0 to 2
+  EXPECT_EQ(r.log.back().substr(0, 10), "Team2     ");
 }
 
 TEST(AllotmentLog, ReadsAsTheAllotmentWentInOrdinaryUse) {
@@ -207,46 +181,30 @@ TEST(AllotmentLog, ReadsAsTheAllotmentWentInOrdinaryUse) {
   EXPECT_EQ(r.log.size(), 18u + 8 * 4 - 1 + 1);
 }
 
-struct SuggestCase {
-  Alignment a;
-  int vsDiv, vsConf, vsLg, expected;
-};
-
-TEST(SuggestGamesPerTeam, CountsByTheLargestDivisionAndConference) {
-  std::vector<SuggestCase> cases{
-      {kDemo, 6, 2, 2, 66},
-      {{{5, 5, 5}, {5, 5, 5}}, 6, 2, 2, 74},
-      // 13 against 12: the larger conference stands for the other as well.
-      {{{7, 6}, {6, 6}}, 6, 2, 2, 74},
-      // An odd total is raised to the next even number.
-      {kDemo, 5, 2, 2, 62},
-      // The byte sum stops at 254.
-      {{{7, 6, 6, 6}, {7, 6, 6, 6}}, 16, 10, 10, 254},
-  };
-  for (const auto& c : cases) {
-    test::Harness h;
-    test::AlignInMemory(h.state, c.a);
-    EXPECT_EQ(SuggestedGamesPerTeam(h.state, c.vsDiv, c.vsConf, c.vsLg), c.expected) << test::TeamCount(c.a);
-  }
-}
-
-TEST(CheckAlignmentBalance, AllowsOneTeamOfDifference) {
-  struct Case {
+// The suggestion: (largest division - 1) x vsDiv + (largest conference - that
+// division) x vsConf + largest conference x vsLg.
+TEST(Alignment, SuggestedGamesCountByTheLargestDivisionAndBalanceAllowsOneTeamOfDifference) {
+  struct Row {
     Alignment a;
+    int vsDiv, vsConf, vsLg, suggested;
     bool balanced;
+    const char* why;
   };
-  std::vector<Case> cases{
-      {kDemo, true},
-      {{{7, 6}, {6, 6}}, true},
-      {{{7, 7}, {6, 6}}, false},  // conferences 14 and 12
-      {{{7, 5}, {6, 6}}, false},  // divisions 7 and 5
-      {{{6, 6, 0}, {6, 6}}, false},  // an empty third division counts
-      {{{5, 5, 5}, {5, 5, 5}}, true},
+  const std::vector<Row> rows{
+      {kDemo, 6, 2, 2, 66, true, "the demo"},
+      {{{5, 5, 5}, {5, 5, 5}}, 6, 2, 2, 74, true, "three divisions"},
+      {{{7, 6}, {6, 6}}, 6, 2, 2, 74, true, "13 against 12: the larger conference stands for the other as well"},
+      {kDemo, 5, 2, 2, 62, true, "an odd total is raised to the next even number"},
+      {{{7, 6, 6, 6}, {7, 6, 6, 6}}, 16, 10, 10, 254, true, "the byte sum stops at 254"},
+      {{{7, 7}, {6, 6}}, 6, 2, 2, 78, false, "conferences 14 and 12"},
+      {{{7, 5}, {6, 6}}, 6, 2, 2, 70, false, "divisions 7 and 5"},
+      {{{6, 6, 0}, {6, 6}}, 6, 2, 2, 66, false, "an empty third division counts"},
   };
-  for (const auto& c : cases) {
+  for (const Row& r : rows) {
     test::Harness h;
-    test::AlignInMemory(h.state, c.a);
-    EXPECT_EQ(CheckAlignmentBalance(h.state), c.balanced) << test::TeamCount(c.a);
+    test::AlignInMemory(h.state, r.a);
+    EXPECT_EQ(SuggestedGamesPerTeam(h.state, r.vsDiv, r.vsConf, r.vsLg), r.suggested) << r.why;
+    EXPECT_EQ(CheckAlignmentBalance(h.state), r.balanced) << r.why;
   }
 }
 

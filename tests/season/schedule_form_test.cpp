@@ -1,9 +1,11 @@
+#include "season/schedule_form.h"
+
 #include <gtest/gtest.h>
 
 #include "league/league_files.h"
+#include "season/reset_league.h"
 #include "season/schedule_allot.h"
 #include "season/schedule_file.h"
-#include "season/schedule_form.h"
 #include "support/league_fixture.h"
 #include "support/schedule_checker.h"
 #include "support/schedule_leagues.h"
@@ -42,18 +44,21 @@ struct FormLeague {
   std::string path;
 };
 
-TEST(NewSchedule, MakesTheAllottedGamesAndResetsTheLeague) {
+TEST(NewSchedule, MakesTheAllottedGamesResetsTheLeagueAndKeepsAnOldScd) {
   FormLeague lg;
   loadteam(lg.h.state, 5, 0);
   lg.h.state.player(0, 0).G = 9;
   SaveTeam(lg.h.state, 5, 0);
+  Bytes old(4642, 0);
+  old[0] = 7;
+  WriteFileAtomic(lg.path + ".scd", old);
   ScheduleForm form(lg.h.state);
   EXPECT_EQ(form.suggested(), 66);
   ASSERT_EQ(lg.pressUntilMade(form), ScheduleOutcome::Made);
-
   const League& hd = lg.h.state.league;
   EXPECT_TRUE(lg.h.ui.told("Schedule is complete", "Make Schedule"));
-  EXPECT_TRUE(test::CheckMadeSchedule(lg.scx(), 24, hd, lg.allotted(form.params())).empty());
+  auto faults = test::CheckMadeSchedule(lg.scx(), 24, hd, lg.allotted(form.params()));
+  EXPECT_TRUE(faults.empty()) << faults.front();
   EXPECT_EQ(hd.LeagueGames, 24 * 66 / 2);
   EXPECT_NE(hd.ScheduleMade, 0);
   EXPECT_EQ(hd.NextGameMark, -1);
@@ -62,16 +67,8 @@ TEST(NewSchedule, MakesTheAllottedGamesAndResetsTheLeague) {
   loadteam(lg.h.state, 5, 0);
   EXPECT_EQ(lg.h.state.player(0, 0).G, 0) << "ResetLeague ran";
   EXPECT_TRUE(fs::exists(lg.h.home / "AllotGameLog.txt"));
-
-  // Read by offsets alone: at the defaults division rivals meet 6 times, all
-  // others twice, and every pair splits its games evenly.
-  test::ScheduleFileFacts f = test::ReadScheduleFacts(lg.scx(), 24);
-  for (int a = 0; a < 24; ++a)
-    for (int b = 0; b < 24; ++b) {
-      int games = a == b ? 0 : a % 4 == b % 4 ? 6 : 2;  // teams are dealt round the four divisions
-      EXPECT_EQ(f.games[a][b], games) << a << " v " << b;
-      EXPECT_EQ(f.hosted[a][b], games / 2) << a << " hosting " << b;
-    }
+  EXPECT_FALSE(fs::exists(lg.path + ".scd"));
+  EXPECT_EQ(ReadFileBytes(lg.path + ".scdold"), old);
 }
 
 TEST(NewSchedule, TopUpGamesArePlacedToo) {
@@ -85,79 +82,57 @@ TEST(NewSchedule, TopUpGamesArePlacedToo) {
   EXPECT_TRUE(faults.empty()) << faults.front();
 }
 
-TEST(NewSchedule, KeepsAnOldScdAsScdold) {
-  FormLeague lg;
-  Bytes old(4642, 0);
-  old[0] = 7;
-  WriteFileAtomic(lg.path + ".scd", old);
-  ScheduleForm form(lg.h.state);
-  ASSERT_EQ(lg.pressUntilMade(form), ScheduleOutcome::Made);
-  EXPECT_FALSE(fs::exists(lg.path + ".scd"));
-  EXPECT_EQ(ReadFileBytes(lg.path + ".scdold"), old);
-}
-
-TEST(NewSchedule, RefusesAnUnbalancedLeagueBeforeAnything) {
-  FormLeague lg({{7, 7}, {6, 6}});
-  ScheduleForm form(lg.h.state);
-  League before = lg.h.state.league;
-  EXPECT_EQ(form.cmdNewSchedule(), ScheduleOutcome::Refused);
-  EXPECT_TRUE(lg.h.ui.told(
-      "Your league is currently unbalanced. The variance of teams per conference or division should not be larger "
-      "than one. You can correct this by using the League|Align League option and adding or removing one team.",
-      "Make Schedule"));
-  EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before));
-  EXPECT_FALSE(fs::exists(lg.h.home / "AllotGameLog.txt"));
-}
-
-TEST(NewSchedule, AsksBeforeReplacingASchedule) {
-  FormLeague lg;
-  lg.h.state.league.ScheduleMade = kTrue;
-  lg.h.ui.push("no");
-  ScheduleForm form(lg.h.state);
-  EXPECT_EQ(form.cmdNewSchedule(), ScheduleOutcome::Refused);
-  auto asks = lg.h.ui.callsOf("ask");
-  ASSERT_EQ(asks.size(), 1u);
-  EXPECT_EQ(asks[0].text,
-            "This will reset the current league. All schedule information and accumulated stats will be lost. "
-            "Continue?");
-  EXPECT_EQ(asks[0].title, "Make Schedule");
-  EXPECT_FALSE(fs::exists(lg.h.home / "AllotGameLog.txt"));
-}
-
-TEST(NewSchedule, AllotmentFailureChangesNothing) {
-  FormLeague lg;
-  Bytes schedule(31, 1);
-  WriteFileAtomic(lg.scx(), schedule);
-  lg.h.state.league.GamesPlayed = 12;
-  League before = lg.h.state.league;
-  ScheduleForm form(lg.h.state);
-  form.setParam(ScheduleParam::GPTeam, 60);
-  EXPECT_EQ(form.cmdNewSchedule(), ScheduleOutcome::AllotFailed);
-  EXPECT_TRUE(lg.h.ui.told("Attempt to allot a set of games failed. \n"
-                           "This usually occurs when you have odd-numbered matchups, or asymmetric league alignments.\n"
-                           "Please try a different set of schedule parameters and/or more symmetric league alignment.",
-                           "Game Allotment Failed"));
-  EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before));
-  EXPECT_EQ(ReadFileBytes(lg.scx()), schedule);
-}
-
-// 9 teams at 29 games make 130.5 games in all: the count never meets that, and
-// the days run dry.
-TEST(NewSchedule, FractionalTotalEndsUnableToPlace) {
-  FormLeague lg({{3, 2}, {2, 2}});
-  League before = lg.h.state.league;
-  ScheduleForm form(lg.h.state);
-  form.setParam(ScheduleParam::GPTeam, form.suggested() + 3);
-  ScheduleOutcome out = form.cmdNewSchedule();
-  ASSERT_EQ(out, ScheduleOutcome::PlacementFailed);
-  auto tells = lg.h.ui.callsOf("tell");
-  ASSERT_FALSE(tells.empty());
-  EXPECT_EQ(tells.back().title, "Make Schedule Error");
-  EXPECT_EQ(tells.back().text.rfind("Scheduler is unable to place game ", 0), 0u);
-  EXPECT_NE(tells.back().text.find(" in a game day without conflict.\nYou must change your schedule parameters and "
-                                   "try to make a schedule again."),
-            std::string::npos);
-  EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before));
+// A press that makes nothing says why and leaves the header as it was; until
+// placement begins the schedule file is untouched too.
+TEST(NewSchedule, FailedPressesChangeNothing) {
+  struct Row {
+    Alignment a;
+    bool scheduleMade;
+    int gpOverSuggested;
+    ScheduleOutcome out;
+    const char* title;
+    std::string said;  // what is told or asked, or how it begins
+  };
+  const std::vector<Row> rows{
+      {{{7, 7}, {6, 6}},
+       false,
+       0,
+       ScheduleOutcome::Refused,
+       "Make Schedule",
+       "Your league is currently unbalanced. The variance of teams per conference or division should not be larger "
+       "than one. You can correct this by using the League|Align League option and adding or removing one team."},
+      {kDemo, true, 0, ScheduleOutcome::Refused, "Make Schedule",
+       "This will reset the current league. All schedule information and accumulated stats will be lost. Continue?"},
+      {kDemo, false, -6, ScheduleOutcome::AllotFailed, "Game Allotment Failed",
+       "Attempt to allot a set of games failed. \nThis usually occurs when you have odd-numbered matchups, or "
+       "asymmetric league alignments.\nPlease try a different set of schedule parameters and/or more symmetric "
+       "league alignment."},
+      // 9 teams at 29 games make 130.5 games in all: the count never meets that, and the days run dry.
+      {{{3, 2}, {2, 2}},
+       false,
+       3,
+       ScheduleOutcome::PlacementFailed,
+       "Make Schedule Error",
+       "Scheduler is unable to place game "},
+  };
+  for (const Row& r : rows) {
+    FormLeague lg(r.a);
+    lg.h.state.league.ScheduleMade = r.scheduleMade ? kTrue : kFalse;
+    lg.h.state.league.GamesPlayed = 12;
+    lg.h.ui.push("no");
+    const Bytes schedule(31, 1);
+    WriteFileAtomic(lg.scx(), schedule);
+    const League before = lg.h.state.league;
+    ScheduleForm form(lg.h.state);
+    form.setParam(ScheduleParam::GPTeam, form.suggested() + r.gpOverSuggested);
+    EXPECT_EQ(form.cmdNewSchedule(), r.out) << r.title;
+    ASSERT_FALSE(lg.h.ui.calls().empty());
+    EXPECT_EQ(lg.h.ui.calls().back().title, r.title);
+    EXPECT_EQ(lg.h.ui.calls().back().text.rfind(r.said, 0), 0u) << lg.h.ui.calls().back().text;
+    EXPECT_EQ(EncodeRecord(lg.h.state.league), EncodeRecord(before)) << r.title;
+    EXPECT_EQ(fs::exists(lg.h.home / "AllotGameLog.txt"), r.out != ScheduleOutcome::Refused) << r.title;
+    EXPECT_TRUE(r.out == ScheduleOutcome::PlacementFailed || ReadFileBytes(lg.scx()) == schedule) << r.title;
+  }
 }
 
 TEST(EarlierSchedule, NumbersItsDaysAndMakesTheAllottedGames) {
@@ -168,19 +143,10 @@ TEST(EarlierSchedule, NumbersItsDaysAndMakesTheAllottedGames) {
   for (int i = 0; i < 40 && out == ScheduleOutcome::PlacementFailed; ++i) out = form.cmdSchedule();
   ASSERT_EQ(out, ScheduleOutcome::Made);
   std::vector<ScheduleRecord> games = ReadSchedule(lg.scx());
-  ASSERT_EQ(games.size(), 792u);
   EXPECT_EQ(games.front().GameDay, 1);
-  for (std::size_t k = 1; k < games.size(); ++k) {
-    EXPECT_GE(games[k].GameDay, games[k - 1].GameDay);
-    EXPECT_EQ(games[k].GameNumber, static_cast<i16>(k + 1));
-  }
-  test::ScheduleFileFacts f = test::ReadScheduleFacts(lg.scx(), 24);
-  ScheduleMatrices m = lg.allotted(form.params());
-  for (int a = 0; a < 24; ++a)
-    for (int b = 0; b < 24; ++b) {
-      EXPECT_EQ(f.games[a][b], m.Matchups(a, b));
-      EXPECT_EQ(f.hosted[a][b], m.HomeMatchups(a, b));
-    }
+  for (std::size_t k = 1; k < games.size(); ++k) EXPECT_GE(games[k].GameDay, games[k - 1].GameDay);
+  auto faults = test::CheckMadeSchedule(lg.scx(), 24, lg.h.state.league, lg.allotted(form.params()), true);
+  EXPECT_TRUE(faults.empty()) << faults.front();
   EXPECT_NE(lg.h.state.league.ScheduleMade, 0);
 }
 
@@ -243,6 +209,26 @@ TEST(ScheduleFormMayOpen, RefusesSmallLeaguesAndUnstockedExpansionTeams) {
   h.state.league.ExpansionDraftOn = kFalse;
   h.state.team(6).Expansion = 0;
   EXPECT_TRUE(ScheduleFormMayOpen(h.state));
+}
+
+// ResetLeague, which a new schedule runs, heals only outside a finished season.
+TEST(ResetLeague, ClearsTheFiguresAndHealsOnlyBeforeTheSeasonIsOver) {
+  for (bool seasonOver : {false, true}) {
+    test::Harness h;
+    h.load(test::StandardLeague(8));
+    loadteam(h.state, 0, 0);
+    Player& hurt = h.state.player(0, 0);
+    hurt.Status = 203, hurt.Condition = 60, hurt.G = 12, hurt.Hits = 40;
+    SaveTeam(h.state, 0, 0);
+    h.state.team(0).W[0] = 5;
+    h.state.league.SeasonOver = ToBool16(seasonOver);
+    ResetLeague(h.state);
+    loadteam(h.state, 0, 0);
+    const Player& p = h.state.player(0, 0);
+    EXPECT_EQ(std::tuple(p.G, p.Hits, h.state.team(0).W[0]), std::tuple(0, 0, 0));
+    EXPECT_EQ(p.Status, seasonOver ? 203 : 200) << "seasonOver=" << seasonOver;
+    EXPECT_EQ(p.Condition, seasonOver ? 60 : 100);
+  }
 }
 
 }  // namespace

@@ -69,32 +69,26 @@ struct Placement {
   std::optional<GameDayMaker> made;
 };
 
-TEST(MakeGameDay, EndsWhenTheRunningCountMeetsTheDraw) {
+TEST(MakeGameDay, EndsWhenTheCountMeetsTheDrawAndNeverOffersTheLastPlaceOfEitherOrder) {
   struct Case {
-    int gpDay, games;
+    int n, gpDay, home, away;  // one game home v away, or every pair twice when home is -1
+    int games;
     const char* why;
   };
   // 44 teams, all free: pairs go 0-1, 2-3, ...; teams 42 and 43 hold the last
-  // places of both orders and never meet, so at most 21 games fit.
-  for (Case c : {Case{19, 19, "the draw is met"}, Case{20, 21, "a draw of 20 is 0: the day runs until nothing fits"},
-                 Case{21, 1, "a draw of 21 is 1"}}) {
-    Placement pl(44, c.gpDay);
-    pl.allPairs();
+  // places of both orders and never meet, so at most 21 games fit. With nothing
+  // played the orders are by team number: in four teams 3 is last in both.
+  for (Case c : {Case{44, 19, -1, -1, 19, "the draw is met"},
+                 Case{44, 20, -1, -1, 21, "a draw of 20 is 0: the day runs until nothing fits"},
+                 Case{44, 21, -1, -1, 1, "a draw of 21 is 1"}, Case{4, 2, 1, 2, 1, "an ordinary game"},
+                 Case{4, 2, 3, 2, 0, "the last home place never hosts"},
+                 Case{4, 2, 2, 3, 0, "the last total place is never the opponent"}}) {
+    Placement pl(c.n, c.gpDay);
+    if (c.home < 0)
+      pl.allPairs();
+    else
+      pl.game(c.home, c.away);
     EXPECT_EQ(pl.maker().MakeGameDay(), c.games) << c.why;
-  }
-}
-
-TEST(MakeGameDay, NeverOffersTheLastPlaceOfEitherOrder) {
-  struct Case {
-    int home, away, placed;
-    const char* why;
-  };
-  // With nothing played the orders are by team number: 3 is last in both.
-  for (Case c : {Case{1, 2, 1, "an ordinary game"}, Case{3, 2, 0, "the last home place never hosts"},
-                 Case{2, 3, 0, "the last total place is never the opponent"}}) {
-    Placement pl(4);
-    pl.game(c.home, c.away);
-    EXPECT_EQ(pl.maker().MakeGameDay(), c.placed) << c.why;
   }
 }
 
@@ -102,14 +96,10 @@ TEST(MakeGameDay, PlacesTheTeamsBehindFirst) {
   Placement pl(6, 1);
   pl.allPairs();
   GameDayMaker& mk = pl.maker();
-  pl.m.TotalGP[0] = 3;
-  pl.m.HomeGP[0] = 2;
-  pl.m.TotalGP[1] = 1;
-  pl.m.HomeGP[1] = 1;
+  pl.m.TotalGP[0] = 3, pl.m.HomeGP[0] = 2, pl.m.TotalGP[1] = 1, pl.m.HomeGP[1] = 1;
   ASSERT_EQ(mk.MakeGameDay(), 1);
   // Home order 2 3 4 5 1 0, total order 2 3 4 5 1 0: 2 hosts, 3 visits.
-  EXPECT_EQ(pl.records[0].HomeTeam, 2);
-  EXPECT_EQ(pl.records[0].AwayTeam, 3);
+  EXPECT_EQ(std::tuple(pl.records[0].HomeTeam, pl.records[0].AwayTeam), std::tuple(2, 3));
 }
 
 TEST(UpdateSpreads, SortsByCountThenTeamNumberAndKeepsTheLastAtEachExtreme) {
@@ -126,41 +116,28 @@ TEST(UpdateSpreads, SortsByCountThenTeamNumberAndKeepsTheLastAtEachExtreme) {
   const Spreads& s = mk.spreads();
   EXPECT_EQ(std::tuple(s.MinTotalGP, s.MinTotalTeam, s.MaxTotalGP, s.MaxTotalTeam), std::tuple(0, 3, 3, 2));
   EXPECT_EQ(std::tuple(s.MinHomeGP, s.MinHomeTeam, s.MaxHomeGP, s.MaxHomeTeam), std::tuple(0, 3, 2, 2));
-  EXPECT_EQ(mk.HomeCandidate(3), 4);
-  EXPECT_EQ(mk.HomeCandidate(4), -1);
-  EXPECT_EQ(mk.OpponentCandidate(0, 1), 3);
-  EXPECT_EQ(mk.OpponentCandidate(4, 1), -2);
-  EXPECT_EQ(mk.OpponentCandidate(0, -1), -1);
+  EXPECT_EQ(std::tuple(mk.HomeCandidate(3), mk.HomeCandidate(4)), std::tuple(4, -1));
+  EXPECT_EQ(std::tuple(mk.OpponentCandidate(0, 1), mk.OpponentCandidate(4, 1), mk.OpponentCandidate(0, -1)),
+            std::tuple(3, -2, -1));
 }
 
-TEST(GamePlaceable, NeedsAGameLeftAtThatHostAndTwoFreeTeams) {
+TEST(PlaceGame, NeedsAGameLeftAtThatHostAndTwoFreeTeamsAndBooksItsRecord) {
   Placement pl(4);
-  pl.game(1, 0);
-  pl.m.Matchups(2, 3) = 1;  // a game without a host
+  pl.game(2, 0);
+  pl.game(2, 0);
+  pl.m.Matchups(1, 2) = 1;  // a game without a host
   GameDayMaker& mk = pl.maker();
-  EXPECT_TRUE(mk.GamePlaceable(0, 1));
-  EXPECT_FALSE(mk.GamePlaceable(1, 0)) << "0 hosts nothing against 1";
-  EXPECT_FALSE(mk.GamePlaceable(3, 2));
+  EXPECT_TRUE(mk.GamePlaceable(0, 2));
+  EXPECT_FALSE(mk.GamePlaceable(2, 0)) << "0 hosts nothing against 2";
+  EXPECT_FALSE(mk.GamePlaceable(2, 1));
   EXPECT_FALSE(mk.GamePlaceable(1, 1));
   EXPECT_FALSE(mk.GamePlaceable(-2, 1));
-  mk.PlaceGame(0, 1);
-  EXPECT_FALSE(mk.GamePlaceable(0, 1)) << "used up, and both have played today";
-}
-
-TEST(PlaceGame, BooksTheGameAndWritesItsRecord) {
-  Placement pl(4);
-  pl.game(2, 0);
-  pl.game(2, 0);
-  GameDayMaker& mk = pl.maker();
   mk.PlaceGame(0, 2);
-  EXPECT_EQ(pl.m.Matchups(0, 2), 1);
-  EXPECT_EQ(pl.m.Matchups(2, 0), 1);
-  EXPECT_EQ(pl.m.HomeMatchups(2, 0), 1);
+  EXPECT_EQ(std::tuple(pl.m.Matchups(0, 2), pl.m.Matchups(2, 0), pl.m.HomeMatchups(2, 0)), std::tuple(1, 1, 1));
   EXPECT_EQ(std::tuple(pl.m.TotalGP[0], pl.m.TotalGP[2], pl.m.HomeGP[2], pl.m.HomeGP[0]), std::tuple(1, 1, 1, 0));
-  EXPECT_EQ(mk.LastHost()(0, 2), 2);
-  EXPECT_EQ(mk.LastHost()(2, 0), 2);
-  EXPECT_EQ(mk.LastHost()(0, 1), kNoHost);
+  EXPECT_EQ(std::tuple(mk.LastHost()(0, 2), mk.LastHost()(2, 0), mk.LastHost()(0, 1)), std::tuple(2, 2, kNoHost));
   EXPECT_TRUE(mk.PlacedToday(0) && mk.PlacedToday(2));
+  EXPECT_FALSE(mk.GamePlaceable(0, 2)) << "a game is left, but both have played today";
   ASSERT_EQ(pl.records.size(), 1u);
   EXPECT_EQ(std::tuple(pl.records[0].HomeTeam, pl.records[0].AwayTeam, pl.records[0].GameNumber), std::tuple(2, 0, 1));
   EXPECT_EQ(pl.gamesPlayed, 1);

@@ -59,32 +59,26 @@ struct GateGame : GameFixture {
 
 TEST(Attendance, WorkedByHand) {
   struct Row {
-    int awayConf, awayDiv;
+    int awayConf, awayDiv, ticket, seats;
     double rivalry;
+    bool full;
     const char* why;
   } rows[] = {
-      {1, 0, 1.0, "another conference"},
-      {0, 1, 1.0, "the same conference, another division"},
-      {0, 0, 1.04, "a division rival draws more"},
+      {1, 0, 25, 30000, 1.0, false, "another conference"},
+      {0, 1, 25, 30000, 1.0, false, "the same conference, another division"},
+      {0, 0, 25, 30000, 1.04, false, "a division rival draws more"},
+      {1, 0, 25, 9000, 1.0, true, "capped by the seats"},
+      {1, 0, 0, 40000, 1.0, false, "ticket 0 reads as 20, seats above 32,767 as unsigned"},
   };
   for (const Row& r : rows) {
     GateGame g;
     g.h.state.team(0).Conf = static_cast<u8>(r.awayConf), g.h.state.team(0).Div = static_cast<u8>(r.awayDiv);
-    const double noise = g.Noise();
-    const double expected = 25 / std::pow(25.0, 1.05) * 17000 * 1.125 * (0.56 / 2 + 0.75) * r.rivalry * noise;
-    EXPECT_EQ(Attendance(g.game), static_cast<int>(std::floor(expected))) << r.why;
+    g.h.state.team(1).Ticket = static_cast<u8>(r.ticket);
+    g.h.state.team(1).Seats = static_cast<i16>(r.seats);
+    const double noise = g.Noise(), price = r.ticket ? r.ticket : 20;
+    const double expected = 25 / std::pow(price, 1.05) * 17000 * 1.125 * (0.56 / 2 + 0.75) * r.rivalry * noise;
+    EXPECT_EQ(Attendance(g.game), r.full ? r.seats : static_cast<int>(std::floor(expected))) << r.why;
   }
-}
-
-TEST(Attendance, IsCappedBySeatsAndReadsTicketZeroAsTwenty) {
-  GateGame g;
-  g.h.state.team(1).Seats = 9000;
-  EXPECT_EQ(Attendance(g.game), 9000);
-  g.h.state.team(1).Seats = static_cast<i16>(40000);
-  g.h.state.team(1).Ticket = 0;
-  const double noise = g.Noise();
-  const double expected = 25 / std::pow(20.0, 1.05) * 17000 * 1.125 * 1.03 * noise;
-  EXPECT_EQ(Attendance(g.game), static_cast<int>(std::floor(expected)));
 }
 
 TEST(GameFinances, BooksTheGateAndBothTeamsDailyCosts) {
@@ -99,10 +93,8 @@ TEST(GameFinances, BooksTheGateAndBothTeamsDailyCosts) {
     s.player(sd, 1).Suspended = 0;
     s.player(sd, 2).Salary = 3000000;  // suspended: not paid
     s.player(sd, 2).Suspended = 2;
-    Player& farm = s.player(sd, 25);  // a minor leaguer below TwoWayAfter: a tenth
-    farm = MakePlayer("Farm Hand", kCentre, 50, 0);
+    Player& farm = s.player(sd, 25) = MakePlayer("Farm Hand", kCentre, 50, 0);  // below TwoWayAfter: a tenth
     farm.Salary = 1000000;
-    farm.GP = 0;
     s.team(sd).Coach.Salary = 500000;
     s.team(sd).CurFin = 0;
   }
@@ -111,11 +103,10 @@ TEST(GameFinances, BooksTheGateAndBothTeamsDailyCosts) {
   EXPECT_DOUBLE_EQ(net, 10000 * 25 * 0.6);
   GameFinances(g.game, net, 10000);
   const int daily = (2000000 + 100000 + 500000) / 20;
-  EXPECT_EQ(s.team(1).CurFin, 150000 - daily);
   EXPECT_EQ(s.team(0).CurFin, -daily);
-  EXPECT_EQ(s.team(1).HomeGames, 1);
-  EXPECT_EQ(s.team(1).Attendance, 10000);
-  EXPECT_EQ(s.team(1).Revenue, 150000);
+  const Team& home = s.team(1);
+  EXPECT_EQ(std::tuple(home.CurFin, home.HomeGames, home.Attendance, home.Revenue),
+            std::tuple(150000 - daily, 1, 10000, 150000));
 }
 
 TEST(GameNet, FollowsTheFinancesLevel) {

@@ -2,6 +2,8 @@
 // goalie pulled after the fifth goal against him.
 #include <gtest/gtest.h>
 
+#include <numeric>
+
 #include "support/sim_league.h"
 
 namespace kvl::test {
@@ -14,24 +16,19 @@ class GoalTest : public SeatedGame {
   GoalTest() : SeatedGame(366) {}
 };
 
-TEST_F(GoalTest, EvenStrengthUnassisted) {
+TEST_F(GoalTest, EvenStrengthUnassistedAndTheSeasonTotalInTheText) {
   g.ScoreGoal(0, kNoPlayer, kUnassisted, kFirstG);
   EXPECT_EQ(g.PlayByPlay.back(), "1. TEAM0, T. C 1 1 (UNASSISTED), 6:06<BR>");
-  EXPECT_EQ(f.side(0).Goals, 1);
-  EXPECT_EQ(g.GoalCount, 1);
-  EXPECT_EQ(f.side(0).PlayerGoals[0], 1);
-  EXPECT_EQ(f.side(0).Scorers[1], 0);
+  EXPECT_EQ(std::tuple(f.side(0).Goals, g.GoalCount, f.side(0).PlayerGoals[0], f.side(0).Scorers[1]),
+            std::tuple(1, 1, 1, 0));
   EXPECT_EQ(f.side(1).GoalsOnGoalie[kFirstG], 1);
   EXPECT_EQ(f.h.state.player(1, kFirstG).PIM, 1);  // a goalie's goals against, at once
   for (u8 p : f.side(0).OnIce) EXPECT_EQ(f.side(0).PlusMinus[p], 1);
   for (u8 p : f.side(1).OnIce) EXPECT_EQ(f.side(1).PlusMinus[p], -1);
   EXPECT_EQ(f.side(0).TiedAt, 0);
-}
-
-TEST_F(GoalTest, SeasonTotalCountsThisGame) {
   f.h.state.player(0, 4).G = 11;
   g.ScoreGoal(4, 0, kOneAssist, kFirstG);
-  EXPECT_EQ(g.PlayByPlay.back(), "1. TEAM0, T. L 1 12 (T. C 1), 6:06<BR>");
+  EXPECT_EQ(g.PlayByPlay.back(), "2. TEAM0, T. L 1 12 (T. C 1), 6:06<BR>");
   EXPECT_EQ(f.side(0).PlayerAssists[0], 1);
 }
 
@@ -47,42 +44,34 @@ TEST_F(GoalTest, PowerPlayGoalFreesTheBoxedSubstitute) {
   EXPECT_EQ(f.side(0).PowerPlayGoals, 1);
   EXPECT_EQ(f.h.state.player(0, 0).PP, 1);
   EXPECT_EQ(f.side(0).PlusMinus[0], 0);  // no plus/minus on special teams
-  EXPECT_EQ(pk.OnIce[4], 5);             // straight into the empty seat
-  EXPECT_EQ(pk.Status[5], kOnIce);
-  EXPECT_EQ(pk.PenaltyKind[5], 0);
+  EXPECT_EQ(std::tuple(pk.OnIce[4], pk.Status[5], pk.PenaltyKind[5]), std::tuple(5, kOnIce, 0))
+      << "straight into the empty seat";
 }
 
-TEST_F(GoalTest, ShortHandedGoal) {
+TEST_F(GoalTest, ShortHandedGoalAndTheTyingMark) {
   f.side(0).MenInBox = 1;
+  f.side(1).Goals = 1;
+  f.side(1).TiedAt = -1;
   g.ScoreGoal(0, kNoPlayer, kUnassisted, kFirstG);
   EXPECT_EQ(g.PlayByPlay.back(), "1. TEAM0, T. C 1 1 (UNASSISTED) (SH), 6:06<BR>");
   EXPECT_EQ(f.h.state.player(0, 0).SH, 1);
+  EXPECT_EQ(f.side(0).TiedAt, -1);
+  EXPECT_EQ(f.side(1).TiedAt, 0);
 }
 
 TEST_F(GoalTest, SecondAssistIsNeitherScorerNorFirst) {
   for (int i = 0; i < 20; ++i) g.ScoreGoal(0, 4, kTwoAssists, kFirstG);
-  int assists = 0;
-  for (int slot = 0; slot < kGameSlots; ++slot) assists += f.side(0).PlayerAssists[static_cast<std::size_t>(slot)];
-  EXPECT_EQ(assists, 40);
-  EXPECT_EQ(f.side(0).PlayerAssists[0], 0);
-  EXPECT_EQ(f.side(0).PlayerAssists[4], 20);
-}
-
-TEST_F(GoalTest, TyingGoalIsMarked) {
-  f.side(1).Goals = 1;
-  f.side(1).TiedAt = -1;
-  g.ScoreGoal(0, kNoPlayer, kUnassisted, kFirstG);
-  EXPECT_EQ(f.side(0).TiedAt, -1);
-  EXPECT_EQ(f.side(1).TiedAt, 0);
+  const auto& a = f.side(0).PlayerAssists;
+  EXPECT_EQ(std::accumulate(a.begin(), a.end(), 0), 40);
+  EXPECT_EQ(a[0], 0);
+  EXPECT_EQ(a[4], 20);
 }
 
 TEST_F(GoalTest, GoalieChangedAfterFifthGoalOnlyOnce) {
   GameSide& def = f.side(1);
   def.GoalsOnGoalie[kFirstG] = 4;
   g.ScoreGoal(0, kNoPlayer, kUnassisted, kFirstG);
-  EXPECT_EQ(def.Goalie, kFirstG + 1);
-  EXPECT_EQ(def.Status[kFirstG], kOnBench);
-  EXPECT_EQ(g.GoalieChanged[1], -1);
+  EXPECT_EQ(std::tuple(def.Goalie, def.Status[kFirstG], g.GoalieChanged[1]), std::tuple(kFirstG + 1, kOnBench, -1));
   EXPECT_EQ(def.CreditGoalie, kFirstG);  // the decision stays until both sides have five
   EXPECT_EQ(g.Notes.back(), "T1 G 2 enters game at 6:06 of 1st period<BR>");
   def.GoalsOnGoalie[kFirstG + 1] = 4;

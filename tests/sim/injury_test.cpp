@@ -51,21 +51,18 @@ TEST_F(InjuryTest, RecoverDayCanDropSeveralClassesAtOnce) {
   p.Status = 206;  // indefinitely: one point a day
   p.Condition = 85;
   RecoverDay(f.h.state, 0, 0, 5);
-  EXPECT_EQ(p.Condition, 86);
-  EXPECT_EQ(p.Status, 201);
+  EXPECT_EQ(std::tuple(p.Condition, p.Status), std::tuple(86, 201));
   p.Status = 109;  // counts above 7 heal as class 6
   p.Condition = 20;
   RecoverDay(f.h.state, 0, 0, 5);
-  EXPECT_EQ(p.Condition, 21);
-  EXPECT_EQ(p.Status, 106);
+  EXPECT_EQ(std::tuple(p.Condition, p.Status), std::tuple(21, 106));
 }
 
 TEST_F(InjuryTest, DurablePlayerShrugsItOff) {
   Player& p = P(5);
   p.rating(kDur) = 255;  // every draw of 200 falls below
   DecideInjury(f.h.state, 0, 0, 5);
-  EXPECT_EQ(p.Status, 200);
-  EXPECT_EQ(p.Condition, 100);
+  EXPECT_EQ(std::tuple(p.Condition, p.Status), std::tuple(100, 200));
   EXPECT_EQ(TransactionLog(f.h.state), "");
 }
 
@@ -75,10 +72,8 @@ TEST_F(InjuryTest, FragilePlayerFallsBackToDayToDay) {
   p.rating(kDur) = 0;  // walks all the way up, then falls back
   f.h.state.team(0).LinesOK = kTrue;
   DecideInjury(f.h.state, 0, 0, 5);
-  EXPECT_EQ(p.Status, 201);
-  EXPECT_EQ(p.Condition, 85);
+  EXPECT_EQ(std::tuple(p.Condition, p.Status, p.InjuryType), std::tuple(85, 201, 0));
   EXPECT_FALSE(f.h.state.team(0).LinesOK);
-  EXPECT_EQ(p.InjuryType, 0);
   EXPECT_EQ(TransactionLog(f.h.state), "T0 L 2 (T00) suffers injury , sidelined day-to-day<BR><BR>\r\n");
 }
 
@@ -116,10 +111,8 @@ TEST_F(InjuryTest, HurtGoalieIsReplacedAndNoted) {
   f.game.Period = 2;
   P(kFirstG).rating(kDur) = 0;
   ASSERT_TRUE(f.game.TryInjury(0, kFirstG, 245));
-  EXPECT_EQ(s.Status[kFirstG], kInjured);
-  EXPECT_EQ(s.Goalie, kFirstG + 1);
-  EXPECT_TRUE(s.goalieHurt);
-  EXPECT_EQ(s.lastHurt, kFirstG);
+  EXPECT_EQ(std::tuple(s.Status[kFirstG], s.Goalie, s.goalieHurt, s.lastHurt),
+            std::tuple(kInjured, kFirstG + 1, true, kFirstG));
   EXPECT_EQ(f.game.Notes.back(), "T0 G 1 injured at 4:05 of the 2nd Period<BR>");
 }
 

@@ -2,6 +2,7 @@
 // goalie changes, fights and ejections.
 #include <gtest/gtest.h>
 
+#include <numeric>
 #include <set>
 
 #include "sim/penalty_tables.h"
@@ -19,57 +20,44 @@ TEST_F(PenaltyTest, SelfServedMinorReturnsToTheBenchWhenItEnds) {
   s.PenaltyKind[5] = kMinor;
   s.Box(5);
   for (int i = 0; i < 23; ++i) g.Tick();
-  EXPECT_EQ(s.MenInBox, 1);
-  EXPECT_EQ(s.Status[5], kInBox);
+  EXPECT_EQ(std::tuple(s.MenInBox, s.Status[5]), std::tuple(1, kInBox));
   g.Tick();
-  EXPECT_EQ(s.MenInBox, 0);
+  EXPECT_EQ(std::tuple(s.MenInBox, s.BoxTicks[5]), std::tuple(0, 0));
   EXPECT_NE(s.Status[5], kInBox);  // on the bench, or already sent out by a line change
-  EXPECT_EQ(s.BoxTicks[5], 0);
-}
-
-TEST_F(PenaltyTest, BoxTimeRunsOnlyWhileTheClockDoes) {
-  GameSide& s = f.side(0);
-  s.BoxTicks[5] = 10;
-  s.Box(5);
+  s.BoxTicks[6] = 10;
+  s.Box(6);
   g.Clock = 1196;
   g.Tick();  // to 1201: the rest of the tick is skipped
-  EXPECT_EQ(s.BoxTicks[5], 10);
+  EXPECT_EQ(s.BoxTicks[6], 10) << "box time runs only while the clock does";
 }
 
-struct OverCase {
-  int kind, serveTicks;
-  bool seat3Empty, seat4Empty;
-  int status, seat;  // seat -1: not seated
-};
-
-class PenaltyOverCases : public testing::TestWithParam<OverCase> {};
-
-TEST_P(PenaltyOverCases, ReleasesByKindAndSeats) {
-  const OverCase& c = GetParam();
-  GameFixture f(SimLeague(4));
-  GameSide& s = f.side(0);
-  f.Seat(0, {0, 4, c.seat3Empty ? kNoPlayer : 12, 8, c.seat4Empty ? kNoPlayer : 13});
-  std::swap(s.OnIce[2], s.OnIce[3]);  // seat 3 is the one tested first
-  s.Status[5] = kInBox;
-  s.PenaltyKind[5] = static_cast<u8>(c.kind);
-  s.ServeTicks[5] = c.serveTicks;
-  f.game.PenaltyOver(0, 5);
-  EXPECT_EQ(s.Status[5], c.status);
-  int seat = -1;
-  for (int i = 0; i < kSeats; ++i)
-    if (s.OnIce[static_cast<std::size_t>(i)] == 5) seat = i;
-  EXPECT_EQ(seat, c.seat);
-  EXPECT_EQ(s.PenaltyKind[5], c.serveTicks > 0 ? c.kind : 0);
+TEST(PenaltyOver, ReleasesByKindAndSeats) {
+  struct Row {
+    int kind, serveTicks;
+    bool seat3Empty, seat4Empty;
+    int status, seat;  // seat -1: not seated
+  } rows[] = {{kMinor, 0, true, true, kOnIce, 3},
+              {kMinor, 0, false, true, kOnIce, 4},
+              {kDoubleMinor, 0, false, false, kOnBench, -1},
+              {kMajor, 0, true, true, kOnBench, -1},
+              {kMinor, 5, true, true, kInBox, -1}};
+  for (const Row& r : rows) {
+    GameFixture f(SimLeague(4));
+    GameSide& s = f.side(0);
+    f.Seat(0, {0, 4, r.seat3Empty ? kNoPlayer : 12, 8, r.seat4Empty ? kNoPlayer : 13});
+    std::swap(s.OnIce[2], s.OnIce[3]);  // seat 3 is the one tested first
+    s.Status[5] = kInBox;
+    s.PenaltyKind[5] = static_cast<u8>(r.kind);
+    s.ServeTicks[5] = r.serveTicks;
+    f.game.PenaltyOver(0, 5);
+    EXPECT_EQ(s.Status[5], r.status) << r.kind;
+    auto seat = std::find(s.OnIce.begin(), s.OnIce.end(), 5);
+    EXPECT_EQ(seat == s.OnIce.end() ? -1 : seat - s.OnIce.begin(), r.seat) << r.kind;
+    EXPECT_EQ(s.PenaltyKind[5], r.serveTicks > 0 ? r.kind : 0);
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, PenaltyOverCases,
-                         testing::Values(OverCase{kMinor, 0, true, true, kOnIce, 3},
-                                         OverCase{kMinor, 0, false, true, kOnIce, 4},
-                                         OverCase{kDoubleMinor, 0, false, false, kOnBench, -1},
-                                         OverCase{kMajor, 0, true, true, kOnBench, -1},
-                                         OverCase{kMinor, 5, true, true, kInBox, -1}));
-
-TEST_F(PenaltyTest, ReleaseMinorTakesTheShortestMinor) {
+TEST_F(PenaltyTest, ReleaseMinorTakesTheShortestMinorAndOnlyASecondHalfOfADouble) {
   GameSide& s = f.side(1);
   auto box = [&](int slot, int kind, int ticks) {
     s.Status[static_cast<std::size_t>(slot)] = kInBox;
@@ -85,56 +73,35 @@ TEST_F(PenaltyTest, ReleaseMinorTakesTheShortestMinor) {
   EXPECT_EQ(s.PenaltyKind[6], 0);
   EXPECT_EQ(s.Status[5], kInBox);
   EXPECT_EQ(s.Status[7], kInBox);
-}
-
-TEST_F(PenaltyTest, ReleaseMinorLeavesTheFirstHalfOfADoubleMinor) {
-  GameSide& s = f.side(1);
-  s.Status[9] = kInBox;
-  s.PenaltyKind[9] = kDoubleMinor;
-  s.BoxTicks[9] = 40;
+  for (int slot : {5, 6}) box(slot, kMajor, 10);  // only the double minor is left
   g.ReleaseMinor(1);
-  EXPECT_EQ(s.BoxTicks[9], 40);
+  EXPECT_EQ(s.BoxTicks[9], 40) << "the first half of a double minor stays";
   EXPECT_EQ(s.Status[9], kInBox);
   s.BoxTicks[9] = 24;  // in its second half it ends like a minor
   g.ReleaseMinor(1);
   EXPECT_EQ(s.Status[9], kOnBench);
 }
 
-struct WeightCase {
-  int line, level;
-  double weight;
-};
-
-class PenaltyWeights : public testing::TestWithParam<WeightCase> {};
-
 // Dis 7.5: (12.5 - 7.5)^2 = 25 before the line factor.
-TEST_P(PenaltyWeights, ByLineAndLevel) {
-  const WeightCase& c = GetParam();
+TEST(PenaltyWeight, ByLineAndLevel) {
+  const double rows[][3] = {{0, 5, 17.5}, {1, 5, 25},    {2, 5, 32.5}, {3, 5, 32.5},
+                            {4, 5, 17.5}, {11, 5, 17.5}, {1, 9, 65},   {1, 1, -15}};  // line, level, weight
   GameFixture f(SimLeague(4));
-  f.h.state.league.PenaltiesLevel() = static_cast<u8>(c.level);
   f.side(0).Scaled[kDis][3] = 7.5f;
-  f.side(0).CurrentLine = static_cast<u8>(c.line);
-  EXPECT_DOUBLE_EQ(f.game.PenaltyWeight(0, 3), c.weight);
+  for (const auto& r : rows) {
+    f.h.state.league.PenaltiesLevel() = static_cast<u8>(r[1]);
+    f.side(0).CurrentLine = static_cast<u8>(r[0]);
+    EXPECT_DOUBLE_EQ(f.game.PenaltyWeight(0, 3), r[2]) << "line " << r[0] << " level " << r[1];
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, PenaltyWeights,
-                         testing::Values(WeightCase{0, 5, 17.5}, WeightCase{1, 5, 25}, WeightCase{2, 5, 32.5},
-                                         WeightCase{3, 5, 32.5}, WeightCase{4, 5, 17.5}, WeightCase{11, 5, 17.5},
-                                         WeightCase{1, 9, 65}, WeightCase{1, 1, -15}));
-
 TEST_F(PenaltyTest, TextsByFlagsAndPosition) {
-  PenaltyCall c;
-  c.offender = 0;
-  c.kind = kMajor;
-  c.extra = 5;
-  EXPECT_EQ(g.PenaltyText(0, c, false, true), "(FIGHTING)");
-  c.extra = 15;
-  EXPECT_EQ(g.PenaltyText(0, c, false, true), "(FIGHTING, Misconduct)");
-  c.ejected = true;
-  EXPECT_EQ(g.PenaltyText(0, c, false, true), "(FIGHTING, Game Misconduct)");
+  EXPECT_EQ(g.PenaltyText(0, {.offender = 0, .kind = kMajor, .extra = 5}, false, true), "(FIGHTING)");
+  EXPECT_EQ(g.PenaltyText(0, {.offender = 0, .kind = kMajor, .extra = 15}, false, true), "(FIGHTING, Misconduct)");
+  EXPECT_EQ(g.PenaltyText(0, {.offender = 0, .kind = kMajor, .extra = 15, .ejected = true}, false, true),
+            "(FIGHTING, Game Misconduct)");
   std::set<std::string> goalie, defence, forward;
-  c = PenaltyCall{};
-  c.kind = kMinor;
+  PenaltyCall c{.kind = kMinor};
   for (int i = 0; i < 300; ++i) {
     c.offender = kFirstG;
     goalie.insert(g.PenaltyText(0, c, false, false));
@@ -146,20 +113,16 @@ TEST_F(PenaltyTest, TextsByFlagsAndPosition) {
   // A goalie draws rows 7..10 only; a defenceman never interferes with a goalie.
   EXPECT_EQ(goalie, (std::set<std::string>{"(ROUGHING, Minor)", "(UNSPORTSMANLIKE-CONDUCT, Minor)",
                                            "(DELAY-OF-GAME, Minor)"}));
-  EXPECT_EQ(defence.count("(GOALIE INTERERENCE, Minor)"), 0u);
-  EXPECT_EQ(forward.count("(GOALIE INTERERENCE, Minor)"), 1u);
-  EXPECT_EQ(forward.count("(DELAY-OF-GAME, Minor)"), 0u);
+  EXPECT_EQ(std::tuple(defence.count("(GOALIE INTERERENCE, Minor)"), forward.count("(GOALIE INTERERENCE, Minor)"),
+                       forward.count("(DELAY-OF-GAME, Minor)")),
+            std::tuple(0u, 1u, 0u));
 }
 
 TEST_F(PenaltyTest, GoaliePenaltyIsServedBySomebodyElse) {
-  std::array<PenaltyCall, 2> calls{};
-  calls[1].offender = kFirstG;
-  calls[1].minutes = 2;
-  calls[1].kind = kMinor;
+  std::array<PenaltyCall, 2> calls{PenaltyCall{}, {.offender = kFirstG, .minutes = 2, .kind = kMinor}};
   g.BookPenalty(1, calls[1], calls, false);
   const GameSide& s = f.side(1);
-  EXPECT_EQ(s.Goalie, kFirstG);
-  EXPECT_EQ(s.BoxTicks[kFirstG], 0);
+  EXPECT_EQ(std::tuple(s.Goalie, s.BoxTicks[kFirstG]), std::tuple(kFirstG, 0));
   EXPECT_NE(g.PeriodPenalties.find("T. G 1 T01 ("), std::string::npos);
   EXPECT_NE(g.PeriodPenalties.find(") (Served by T. "), std::string::npos);
   int servers = 0;
@@ -167,28 +130,17 @@ TEST_F(PenaltyTest, GoaliePenaltyIsServedBySomebodyElse) {
     if (s.BoxTicks[static_cast<std::size_t>(slot)] == 24) {
       ++servers;
       EXPECT_NE(f.h.state.player(1, slot).Pos, kGoalie);  // the backup would jump into a skater's seat
-      EXPECT_EQ(s.Status[static_cast<std::size_t>(slot)], kInBox);
-      EXPECT_EQ(s.ServeTicks[static_cast<std::size_t>(slot)], 0);
+      EXPECT_EQ(std::tuple(s.Status[slot], s.ServeTicks[slot]), std::tuple(kInBox, 0));
     }
-  EXPECT_EQ(servers, 1);
-  EXPECT_EQ(s.MenInBox, 1);
-  EXPECT_EQ(s.TeamPIM, 2);
-  EXPECT_EQ(s.PIM[kFirstG], 2);
+  EXPECT_EQ(std::tuple(servers, s.MenInBox, s.TeamPIM, s.PIM[kFirstG]), std::tuple(1, 1, 2, 2));
 }
 
 TEST_F(PenaltyTest, EjectedSkaterIsNotedAndServedFor) {
-  std::array<PenaltyCall, 2> calls{};
-  PenaltyCall& c = calls[0];
-  c.offender = 4;
-  c.minutes = 5;
-  c.kind = kMajor;
-  c.extra = 10;
-  c.ejected = c.toBeSuspended = true;
-  g.BookPenalty(0, c, calls, false);
+  std::array<PenaltyCall, 2> calls{
+      PenaltyCall{.offender = 4, .minutes = 5, .kind = kMajor, .extra = 10, .ejected = true, .toBeSuspended = true}};
+  g.BookPenalty(0, calls[0], calls, false);
   const GameSide& s = f.side(0);
-  EXPECT_EQ(s.Status[4], kEjectedSuspend);
-  EXPECT_EQ(s.PIM[4], 15);
-  EXPECT_EQ(s.BoxTicks[4], 0);
+  EXPECT_EQ(std::tuple(s.Status[4], s.PIM[4], s.BoxTicks[4]), std::tuple(kEjectedSuspend, 15, 0));
   EXPECT_EQ(g.Notes.back(), "T0 L 1 ejected at 1:40 of the 1st Period<BR>");
   EXPECT_NE(g.PeriodPenalties.find(", Game Misconduct) (Served by "), std::string::npos);
 }
@@ -198,8 +150,7 @@ TEST_F(PenaltyTest, ChangeGoalieTakesTheNextDressedGoalie) {
   s.Status[kFirstG] = kInjured;
   g.Clock = 5;  // no note this early
   g.ChangeGoalie(0);
-  EXPECT_EQ(s.Goalie, kFirstG + 1);
-  EXPECT_EQ(s.Status[kFirstG], kInjured);
+  EXPECT_EQ(std::tuple(s.Goalie, s.Status[kFirstG]), std::tuple(kFirstG + 1, kInjured));
   EXPECT_TRUE(g.Notes.empty());
   g.ChangeGoalie(0);  // nobody left on the bench
   EXPECT_EQ(s.Goalie, kFirstG + 1);
@@ -221,14 +172,9 @@ TEST_F(PenaltyTest, EventsKeepTheBooks) {
     g.PenaltyEvent();
     for (int sd = 0; sd < 2; ++sd) {
       const GameSide& s = f.side(sd);
-      int pim = 0;
-      for (int p : s.PIM) pim += p;
-      EXPECT_EQ(pim, s.TeamPIM);
+      EXPECT_EQ(std::accumulate(s.PIM.begin(), s.PIM.end(), 0), s.TeamPIM);
       EXPECT_NE(s.Status[s.Goalie], kOnIce);
-      for (u8 p : s.OnIce) {
-        if (p == kNoPlayer) continue;
-        EXPECT_NE(f.h.state.player(sd, p).Pos, kGoalie);
-      }
+      for (u8 p : s.OnIce) EXPECT_TRUE(p == kNoPlayer || f.h.state.player(sd, p).Pos != kGoalie);
     }
     for (int t = 0; t < 6; ++t) g.Tick();
   }

@@ -14,20 +14,14 @@ TEST(SimProfile, SlidersMoveShotsAndGoalsAndAreRestored) {
   s.rnd.setMasterSeed(11);
   auto run = [&](int shots, int goals) {
     ProfileOptions o;
-    o.games = 100;
-    o.shotsLevel = shots;
-    o.goalsLevel = goals;
+    o.games = 100, o.shotsLevel = shots, o.goalsLevel = goals;
     return RunProfile(s, o);
   };
   ProfileTotals low = run(1, 5), high = run(9, 5);
-  EXPECT_EQ(low.games, 100);
-  EXPECT_EQ(high.sliders[1], 9);
+  EXPECT_EQ(std::tuple(low.games, high.sliders[1]), std::tuple(100, 9));
   EXPECT_GT(high.shots, low.shots + 100);  // about 3 shots a team and game apart
-  ProfileTotals fewGoals = run(5, 1), manyGoals = run(5, 9);
-  EXPECT_GT(manyGoals.goals, fewGoals.goals);
-  EXPECT_EQ(s.league.ShotsLevel(), 5);
-  EXPECT_EQ(s.league.GoalsLevel(), 5);
-  EXPECT_FALSE(s.Dirty);
+  EXPECT_GT(run(5, 9).goals, run(5, 1).goals);
+  EXPECT_EQ(std::tuple(s.league.ShotsLevel(), s.league.GoalsLevel(), s.Dirty), std::tuple(5, 5, false));
 }
 
 TEST(SimProfile, FiguresAreTheSameOnAnyNumberOfThreads) {
@@ -35,8 +29,7 @@ TEST(SimProfile, FiguresAreTheSameOnAnyNumberOfThreads) {
     GameFixture f(SimLeague(6), false);
     f.h.state.rnd.setMasterSeed(5);
     ProfileOptions o;
-    o.games = 60;
-    o.jobs = jobs;
+    o.games = 60, o.jobs = jobs;
     return RunProfile(f.h.state, o);
   };
   auto figures = [](const ProfileTotals& t) {
@@ -55,8 +48,7 @@ TEST(SimProfile, RefusesATeamAgainstItselfAndBadLevels) {
   o.pair = {1, 1};
   EXPECT_THROW(RunProfile(f.h.state, o), KvlError);
   o.pair.reset();
-  o.shotsLevel = 7;
-  o.goalsLevel = 0;
+  o.shotsLevel = 7, o.goalsLevel = 0;
   EXPECT_THROW(RunProfile(f.h.state, o), KvlError);
   EXPECT_EQ(f.h.state.league.ShotsLevel(), 5);
 }

@@ -27,10 +27,10 @@ ScheduleFileFacts ReadScheduleFacts(const std::filesystem::path& scx, int n) {
     std::size_t at = k * kRecord;
     int home = bytes[at], away = bytes[at + 2];
     if (U16(bytes, at + 6) != static_cast<int>(k + 1)) f.numberedFromOne = false;
-    for (std::size_t i : {1u, 3u, 4u, 5u, 8u, 9u, 10u, 11u})
+    for (std::size_t i : {8u, 9u, 10u, 11u})
       if (bytes[at + i] != 0) f.freshRecords = false;
-    for (std::size_t i = 12; i < kRecord; ++i)
-      if (bytes[at + i] != 0) f.freshRecords = false;
+    for (std::size_t i = 1; i < kRecord; ++i)
+      if (i != 2 && (i < 6 || i > 11) && bytes[at + i] != 0) f.freshRecords = f.freshButDays = false;
     if (home >= n || away >= n) continue;
     ++f.games[static_cast<std::size_t>(home)][static_cast<std::size_t>(away)];
     ++f.games[static_cast<std::size_t>(away)][static_cast<std::size_t>(home)];
@@ -40,14 +40,15 @@ ScheduleFileFacts ReadScheduleFacts(const std::filesystem::path& scx, int n) {
 }
 
 std::vector<std::string> CheckMadeSchedule(const std::filesystem::path& scx, int n, const League& header,
-                                           const ScheduleMatrices& allotted) {
+                                           const ScheduleMatrices& allotted, bool withDays) {
   std::vector<std::string> faults;
   ScheduleFileFacts f = ReadScheduleFacts(scx, n);
   if (!f.wholeRecords) faults.push_back("the file is not a whole number of 31-byte records");
   if (static_cast<std::size_t>(header.LeagueGames) != f.records)
     faults.push_back(fmt::format("LeagueGames is {} but the file holds {} games", header.LeagueGames, f.records));
   if (!f.numberedFromOne) faults.push_back("records are not numbered 1, 2, 3, ...");
-  if (!f.freshRecords) faults.push_back("a fresh record carries a score, a played mark or a day");
+  if (!(withDays ? f.freshButDays : f.freshRecords))
+    faults.push_back("a fresh record carries a score, a played mark or a day");
   for (int a = 0; a < n; ++a)
     for (int b = 0; b < n; ++b) {
       int games = f.games[static_cast<std::size_t>(a)][static_cast<std::size_t>(b)];

@@ -1,5 +1,10 @@
 #include "support/sim_league.h"
 
+#include "league/league_files.h"
+#include "season/schedule_file.h"
+#include "support/golden.h"
+#include "util/record_file.h"
+
 namespace kvl::test {
 
 void FillStandardLines(LineTable& lines) {
@@ -32,6 +37,29 @@ LeaguePlan SimLeague(int teams, unsigned seed) {
     t.LinesOK = kTrue;
   }
   return plan;
+}
+
+void WriteSchedule(Harness& h, const std::vector<std::pair<int, int>>& games) {
+  RecordFile f(h.state.swap(swp::Schedule), ScheduleRecord::kSize);
+  for (std::size_t i = 0; i < games.size(); ++i) {
+    ScheduleRecord r;
+    r.AwayTeam = static_cast<u8>(games[i].first);
+    r.HomeTeam = static_cast<u8>(games[i].second);
+    r.GameNumber = static_cast<i16>(i + 1);
+    f.putRecord(i + 1, r);
+  }
+  h.state.league.ScheduleMade = kTrue;
+  h.state.league.LeagueGames = static_cast<i16>(games.size());
+}
+
+ScheduledLeague::ScheduledLeague(const std::vector<std::pair<int, int>>& games, const LeaguePlan& plan) {
+  h.state.rnd.setMasterSeed(7);
+  h.load(plan);
+  WriteSchedule(h, games);
+}
+
+std::string ScheduledLeague::page(const std::string& name) const {
+  return ReadAll(h.home / "Transfer" / ("test" + name));
 }
 
 void HireCoach(LeaguePlan& plan, int team) {

@@ -17,6 +17,15 @@ void FillStandardLines(LineTable& lines);
 // StandardLeague with D 7 scratched, the second goalie dressed and lines set.
 LeaguePlan SimLeague(int teams, unsigned seed = 1);
 
+// Writes the loaded league's schedule of (away, home) games, numbered from 1, and marks it made.
+void WriteSchedule(Harness& h, const std::vector<std::pair<int, int>>& games);
+// The four-team SimLeague loaded with master seed 7 and this schedule.
+struct ScheduledLeague {
+  explicit ScheduledLeague(const std::vector<std::pair<int, int>>& games, const LeaguePlan& plan = SimLeague(4));
+  std::string page(const std::string& name) const;  // Transfer/test<name>
+  Harness h;
+};
+
 // Links coach record t + 1 of the plan to team t, as the coach check expects.
 void HireCoach(LeaguePlan& plan, int team);
 

@@ -1,8 +1,10 @@
-// How teams are ranked, seeded and marked in the standings.
-#include "reports/standings_rank.h"
-
+// The figures the pages are made of: how teams are ranked, seeded and marked,
+// the order of the leaders' tables, and what a roster costs.
 #include <gtest/gtest.h>
 
+#include "reports/payroll.h"
+#include "reports/player_lists.h"
+#include "reports/standings_rank.h"
 #include "support/league_fixture.h"
 
 namespace kvl::test {
@@ -70,7 +72,10 @@ TEST(Standings, PointsFollowThePointSystemAndClassicInThePlayoffs) {
 // The first team of each division moves to the head; only team and points
 // travel, the other columns stay with their place.
 TEST(Standings, SeedingMovesTeamAndPointsOnly) {
-  RankLeague lg({{5, 0, 0, 20, 5, 0, 0}, {4, 1, 0, 15, 8, 0, 0}, {3, 2, 0, 12, 10, 0, 1}, {2, 3, 0, 9, 9, 1, 0},
+  RankLeague lg({{5, 0, 0, 20, 5, 0, 0},
+                 {4, 1, 0, 15, 8, 0, 0},
+                 {3, 2, 0, 12, 10, 0, 1},
+                 {2, 3, 0, 9, 9, 1, 0},
                  {1, 4, 0, 6, 12, 1, 1}});
   lg.h.state.league.Conf[0].NumDivs = 2;  // four leaders seeded
   lg.h.state.league.SeedDivLeaders = kTrue;
@@ -130,14 +135,109 @@ TEST(Standings, WalkOfPlayedGames) {
   std::vector<ScheduleRecord> games{game(0, 1, 3, 1, 0), game(1, 0, 2, 1, 1), game(2, 0, 2, 2, 0), game(0, 2, 9, 0, 0)};
   lg.h.state.league.PointSystem = 1;  // Modern: the overtime loser takes 1
   GameWalk w = WalkGames(lg.h.state, games);
-  EXPECT_EQ(w.HeadToHead[0][1], 4 + 1);
-  EXPECT_EQ(w.HeadToHead[1][0], 4);
-  EXPECT_EQ(w.HeadToHead[0][2], 1 + 1);  // a tie: 1, and 1 more to the visitor
-  EXPECT_EQ(w.HeadToHead[2][0], 1 + 2);  // and 2 to the host
+  // 0 v 1: a win and an overtime loss; 0 v 2: a tie is 1, and 1 more to the visitor, 2 to the host.
+  EXPECT_EQ(std::vector<int>({w.HeadToHead[0][1], w.HeadToHead[1][0], w.HeadToHead[0][2], w.HeadToHead[2][0]}),
+            std::vector<int>({4 + 1, 4, 1 + 1, 1 + 2}));
   const TeamSplits& zero = w.splits[0];
   EXPECT_EQ(std::vector<int>({zero.HomeW, zero.HomeL, zero.ConfW, zero.ConfL, zero.ConfT}),
             std::vector<int>({1, 0, 0, 0, 1}));
   EXPECT_EQ(std::vector<int>({zero.L10W, zero.L10L, zero.L10T, zero.seen}), std::vector<int>({1, 1, 1, 3}));
+}
+
+RosterEntry Scorer(int gp, int g, int a, const std::string& name) {
+  RosterEntry e;
+  e.p = MakePlayer(name, kCentre, 50);
+  e.p.GP = static_cast<u8>(gp), e.p.G = static_cast<u8>(g), e.p.A = static_cast<u8>(a);
+  return e;
+}
+
+bool MoreScoring(const RosterEntry& a, const RosterEntry& r) { return OutScores(a.p, r.p); }
+
+std::vector<std::string> Names(const std::vector<RosterEntry>& rows) {
+  std::vector<std::string> out;
+  for (const RosterEntry& e : rows) out.push_back(e.p.Name.str());
+  return out;
+}
+
+TEST(Leaders, ScoringOrder) {
+  struct Case {
+    const char* rule;
+    std::vector<RosterEntry> candidates;
+    std::vector<std::string> order;
+  };
+  const std::vector<Case> cases{
+      {"more points", {Scorer(10, 1, 1, "a"), Scorer(10, 2, 1, "b")}, {"b", "a"}},
+      {"equal points: fewer games", {Scorer(10, 2, 2, "a"), Scorer(9, 1, 3, "b")}, {"b", "a"}},
+      {"then more goals", {Scorer(10, 1, 3, "a"), Scorer(10, 3, 1, "b")}, {"b", "a"}},
+      {"equal on all three: the first met stays ahead", {Scorer(10, 2, 2, "a"), Scorer(10, 2, 2, "b")}, {"a", "b"}},
+  };
+  for (const Case& c : cases) EXPECT_EQ(Names(RankPlayers(c.candidates, 30, MoreScoring)), c.order) << c.rule;
+}
+
+TEST(Leaders, TableKeepsItsSize) {
+  std::vector<RosterEntry> c;
+  for (int i = 0; i < 5; ++i) c.push_back(Scorer(10, i, 0, std::string(1, static_cast<char>('a' + i))));
+  EXPECT_EQ(Names(RankPlayers(c, 3, MoreScoring)), (std::vector<std::string>{"e", "d", "c"}));
+}
+
+TEST(Leaders, MinGoalieGP) {
+  struct Case {
+    int teams, gamesPlayed;
+    bool playoffs;
+    int round, minimum;
+  };
+  // Four tenths of the average team's games, rounded half up; the round in the playoffs.
+  const std::vector<Case> cases{{4, 0, false, 0, 0},     {4, 2, false, 0, 0},   {4, 4, false, 0, 1},
+                                {24, 792, false, 0, 26}, {24, 30, false, 0, 1}, {24, 792, true, 3, 3}};
+  for (const Case& c : cases) {
+    Harness h;
+    h.state.league.NumTeams = static_cast<u8>(c.teams);
+    h.state.league.GamesPlayed = static_cast<i16>(c.gamesPlayed);
+    h.state.league.InPlayoffs = c.playoffs ? kTrue : kFalse;
+    h.state.Playoff.PlayoffRound = static_cast<u8>(c.round);
+    EXPECT_EQ(MinGoalieGP(h.state), c.minimum) << c.teams << " teams, " << c.gamesPlayed << " games";
+  }
+}
+
+TEST(Payroll, WhoIsPaidAndHowMuch) {
+  struct Case {
+    const char* who;
+    int slot, status, suspended, gp;
+    i32 salary, pro, farm;
+  };
+  // TwoWayAfter is 50: a minor leaguer below 50 games draws a tenth, rounded.
+  const std::vector<Case> cases{
+      {"dressed", 1, 200, 0, 0, 1000001, 1000001, 0},
+      {"scratched", 2, 100, 0, 0, 500000, 500000, 0},
+      {"suspended", 3, 200, 3, 0, 500000, 0, 0},
+      {"holding out", 4, 200, 99, 0, 500000, 0, 0},
+      {"away for personal reasons", 5, 200, 88, 0, 500000, 0, 0},
+      {"minor leaguer on a two-way deal", 6, 0, 0, 10, 500005, 0, 50001},
+      {"minor leaguer past the two-way games", 7, 0, 0, 50, 400000, 0, 400000},
+      {"slot 0 is never counted", 0, 200, 0, 0, 700000, 0, 0},
+  };
+  for (const Case& c : cases) {
+    Harness h;
+    h.state.league.TwoWayAfter = 50;
+    Player& p = h.state.player(0, c.slot);
+    p = MakePlayer("Some One", kCentre, 50, c.status);
+    p.Suspended = static_cast<u8>(c.suspended);
+    p.GP = static_cast<u8>(c.gp);
+    p.Salary = c.salary;
+    EXPECT_EQ(ProPayroll(h.state, 0), c.pro) << c.who;
+    EXPECT_EQ(FarmPayroll(h.state, 0), c.farm) << c.who;
+  }
+}
+
+TEST(Payroll, ProspectFeesAreInHundreds) {
+  Harness h;
+  ProspectList& list = h.state.Prospects[0];
+  list.Name[0].set("A");
+  list.Salary[0] = 250;
+  list.Name[1].set("B");
+  list.Salary[1] = -5;   // a negative fee is no fee
+  list.Salary[2] = 900;  // no name, no fee
+  EXPECT_EQ(ProspectFees(h.state, 0), 25000);
 }
 
 }  // namespace

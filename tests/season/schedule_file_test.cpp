@@ -1,7 +1,10 @@
+// Old schedule files converted on load, and the schedule reviewed by game day.
+#include "season/schedule_file.h"
+
 #include <gtest/gtest.h>
 
 #include "league/league_files.h"
-#include "season/schedule_file.h"
+#include "season/schedule_review.h"
 #include "support/league_fixture.h"
 #include "util/record_file.h"
 
@@ -39,8 +42,9 @@ i16 PlayedMark(u8 hs, u8 as) { return (hs || as) ? kTrue : kFalse; }
 
 // Day fields 100 + n and 200 + n, to see where each goes.
 ScheduleRecord13 Old13(u8 home, u8 away, i16 number, u8 hs = 0, u8 as = 0, u8 ot = 0) {
-  return {home, hs, away, as, number, PlayedMark(hs, as), static_cast<i16>(100 + number),
-          static_cast<i16>(200 + number), ot};
+  return {
+      home, hs, away, as, number, PlayedMark(hs, as), static_cast<i16>(100 + number), static_cast<i16>(200 + number),
+      ot};
 }
 
 ScheduleRecord6 Old6(u8 home, u8 away, u8 hs = 0, u8 as = 0) { return {home, hs, away, as, PlayedMark(hs, as)}; }
@@ -51,13 +55,9 @@ TEST(ConvertSchedCheck, ThirteenByteGamesKeepTheirNumbersAndDays) {
   std::vector<ScheduleRecord> g = lg.converted();
   ASSERT_EQ(g.size(), 3u);
   EXPECT_EQ(std::tuple(g[0].HomeTeam, g[0].AwayTeam, g[0].HomeScore, g[0].AwayScore), std::tuple(1, 0, 4, 2));
-  EXPECT_EQ(g[0].GameNumber, 1);
-  EXPECT_EQ(g[0].Played, kTrue);
-  EXPECT_EQ(g[0].DayA, 101);
-  EXPECT_EQ(g[0].GameDay, 201);
-  EXPECT_EQ(g[0].Overtime, 0);
-  EXPECT_EQ(g[1].Overtime, 1);  // its own mark
-  EXPECT_EQ(g[2].Overtime, 1);  // a tie that is not 0-0
+  EXPECT_EQ(std::tuple(g[0].GameNumber, g[0].Played, g[0].DayA, g[0].GameDay), std::tuple(1, kTrue, 101, 201));
+  // Overtime: none, its own mark, and a tie that is not 0-0.
+  EXPECT_EQ(std::tuple(g[0].Overtime, g[1].Overtime, g[2].Overtime), std::tuple(0, 1, 1));
   EXPECT_TRUE(lg.h.state.Dirty);
 }
 
@@ -66,19 +66,13 @@ TEST(ConvertSchedCheck, SixByteGamesAreNumberedAndGivenDays) {
   std::vector<ScheduleRecord> g = lg.converted();
   ASSERT_EQ(g.size(), 5u);
   // Team 1 comes round again at the third game: a new day starts there.
-  std::vector<int> days, numbers;
-  for (const auto& r : g) {
-    days.push_back(r.GameDay);
-    numbers.push_back(r.GameNumber);
-    EXPECT_EQ(r.DayA, r.GameDay);
-  }
-  EXPECT_EQ(days, (std::vector<int>{1, 1, 2, 2, 2}));
-  EXPECT_EQ(numbers, (std::vector<int>{1, 2, 3, 4, 5}));
-  EXPECT_EQ(g[0].Overtime, 1);
-  EXPECT_EQ(g[1].Overtime, 0);
-  EXPECT_EQ(g[2].Overtime, 0);  // 0-0 is a game not yet played
-  EXPECT_EQ(g[1].Played, kTrue);
-  EXPECT_EQ(g[2].Played, kFalse);
+  std::vector<std::tuple<int, int, int>> numberDays;
+  for (const auto& r : g) numberDays.emplace_back(r.GameNumber, r.GameDay, r.DayA);
+  EXPECT_EQ(numberDays,
+            (std::vector<std::tuple<int, int, int>>{{1, 1, 1}, {2, 1, 1}, {3, 2, 2}, {4, 2, 2}, {5, 2, 2}}));
+  // A tie, a win, and 0-0: a game not yet played.
+  EXPECT_EQ(std::tuple(g[0].Overtime, g[1].Overtime, g[2].Overtime, g[1].Played, g[2].Played),
+            std::tuple(1, 0, 0, kTrue, kFalse));
 }
 
 TEST(ConvertSchedCheck, LeavesAloneWhatNeedsNoConversion) {
@@ -90,11 +84,7 @@ TEST(ConvertSchedCheck, LeavesAloneWhatNeedsNoConversion) {
   }
   {
     // A league with a current schedule keeps it.
-    ScheduleRecord current;
-    current.HomeTeam = 7;
-    current.AwayTeam = 6;
-    current.GameNumber = 1;
-    Bytes scx = EncodeRecord(current);
+    Bytes scx = EncodeRecord(ScheduleRecord{.HomeTeam = 7, .AwayTeam = 6, .GameNumber = 1});
     OldScheduleLeague lg(Concat(std::vector{Old6(0, 1)}), &scx);
     std::vector<ScheduleRecord> g = lg.converted();
     ASSERT_EQ(g.size(), 1u);
@@ -111,6 +101,44 @@ TEST(ConvertSchedCheck, TellsOfAnOldScheduleItCannotRead) {
   ASSERT_FALSE(tells.empty());
   EXPECT_EQ(tells.back().title, "Convert Schedule");
   EXPECT_NE(tells.back().text.find("old.scd"), std::string::npos);
+}
+
+struct ReviewLeague {
+  ReviewLeague() {
+    h.load(test::StandardLeague(8));
+    h.state.league.ScheduleMade = kTrue;
+    RecordFile f(h.state.swap(swp::Schedule), ScheduleRecord::kSize);
+    const std::vector<ScheduleRecord> games{
+        {.HomeTeam = 0, .HomeScore = 3, .AwayTeam = 1, .AwayScore = 2, .Played = kTrue, .GameNumber = 1},
+        {.HomeTeam = 2, .HomeScore = 1, .AwayTeam = 3, .AwayScore = 1, .Played = kTrue, .GameNumber = 2, .Overtime = 1},
+        {.HomeTeam = 1, .AwayTeam = 4, .GameNumber = 3},
+        {.HomeTeam = 5, .AwayTeam = 6, .GameNumber = 4}};
+    for (std::size_t k = 0; k < games.size(); ++k) f.putRecord(k + 1, games[k]);
+  }
+  std::string printed() {
+    auto prints = h.ui.callsOf("print");
+    return prints.empty() ? "" : prints.back().text;
+  }
+  test::Harness h;
+};
+
+TEST(RevSched, ShowsTheDaysTheDriverWillPlayWithScoresOrOneDayOrNone) {
+  ReviewLeague lg;
+  ASSERT_TRUE(RevSched(lg.h.state));
+  EXPECT_EQ(lg.printed(),
+            "Game day 1 (2 games)\n"
+            "     1  Team1 2 at Team0 3\n"
+            "     2  Team3 1 at Team2 1 (OT)\n"
+            "Game day 2 (2 games)\n"
+            "     3  Team4 at Team1\n"
+            "     4  Team6 at Team5\n");
+  ASSERT_TRUE(RevSched(lg.h.state, 2));
+  EXPECT_EQ(lg.printed().substr(0, 20), "Game day 2 (2 games)");
+  EXPECT_FALSE(RevSched(lg.h.state, 3));
+  EXPECT_TRUE(lg.h.ui.told("There is no game day 3: the schedule has 2 game days.", "Review Schedule"));
+  lg.h.state.league.ScheduleMade = kFalse;
+  ASSERT_TRUE(RevSched(lg.h.state));
+  EXPECT_EQ(lg.printed(), "No Schedule\n");
 }
 
 }  // namespace
