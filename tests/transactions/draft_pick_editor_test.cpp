@@ -1,7 +1,8 @@
+#include "transactions/draft_pick_editor.h"
+
 #include <gtest/gtest.h>
 
 #include "support/league_fixture.h"
-#include "transactions/draft_pick_editor.h"
 #include "transactions/draft_picks.h"
 
 namespace kvl {
@@ -19,21 +20,23 @@ struct PickEditor : ::testing::Test {
 
 TEST_F(PickEditor, KeptChangesAreWrittenInOrder) {
   DraftPickEditor form(h.state, 0);
-  ASSERT_TRUE(form.cmdRemove(1));                  // its own 2027 first rounder
-  ASSERT_TRUE(form.cmdAdd(0, 0, 3));               // team 3's instead
+  ASSERT_TRUE(form.cmdRemove(1));     // its own 2027 first rounder
+  ASSERT_TRUE(form.cmdAdd(0, 0, 3));  // team 3's instead
   h.ui.push("yes");
   ASSERT_TRUE(form.cmdExit());
   const DraftPickRecord r = ReadDraftPicks(h.state, 0);
-  EXPECT_EQ(r.Pick[1].OrigTeam, 3) << "sorted back to the head of its year and round";
-  EXPECT_EQ(r.Pick[1].Owner, 0);
-  EXPECT_EQ(r.Pick[2].Round, 1);
-  EXPECT_EQ(r.Pick[55].Active, 0);
+  // Sorted back to the head of its year and round.
+  EXPECT_EQ((std::array{int(r.Pick[1].OrigTeam), int(r.Pick[1].Owner), int(r.Pick[2].Round), int(r.Pick[55].Active)}),
+            (std::array{3, 0, 1, 0}));
   EXPECT_TRUE(h.state.Dirty);
 }
 
 TEST_F(PickEditor, ANoOrABadPickChangesNothing) {
   DraftPickEditor form(h.state, 1);
-  struct Row { int year, round, team; const char* told; };
+  struct Row {
+    int year, round, team;
+    const char* told;
+  };
   const Row bad[] = {
       {6, 0, 0, "Draft picks of Team1: draft 2033 is outside the next six drafts."},
       {0, 9, 0, "Draft picks of Team1: round 10 is outside rounds 1 to 9."},

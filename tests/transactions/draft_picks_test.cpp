@@ -1,18 +1,20 @@
+#include "transactions/draft_picks.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
 #include "support/league_fixture.h"
-#include "transactions/draft_picks.h"
 
 namespace kvl {
 namespace {
 
 int ActiveCount(const DraftPickRecord& r) {
-  return static_cast<int>(std::count_if(r.Pick.begin(), r.Pick.end(), [](const DraftPick& p) { return p.Active != 0; }));
+  return static_cast<int>(
+      std::count_if(r.Pick.begin(), r.Pick.end(), [](const DraftPick& p) { return p.Active != 0; }));
 }
 
-TEST(DraftPicks, MakeDraftPicksGivesEveryTeamItsOwnFiftyFour) {
+TEST(DraftPicks, MakeDraftPicksGivesEveryTeamItsOwnFiftyFourAndAnEmptyRecordSortsEmpty) {
   test::Harness h;
   h.load(test::StandardLeague(8));
   MakeDraftPicks(h.state);
@@ -22,11 +24,11 @@ TEST(DraftPicks, MakeDraftPicksGivesEveryTeamItsOwnFiftyFour) {
     EXPECT_EQ(r.Pick[0].Active, 0) << "entry 0 is never used";
     // Entry 1 + year x 9 + round holds that pick.
     const DraftPick& p = r.Pick[1 + 4 * 9 + 7];
-    EXPECT_EQ(p.CurrentYear, 4);
-    EXPECT_EQ(p.Round, 7);
-    EXPECT_EQ(p.OrigTeam, t);
-    EXPECT_EQ(p.Owner, t);
+    EXPECT_EQ((std::array{int(p.CurrentYear), int(p.Round), int(p.OrigTeam), int(p.Owner)}), (std::array{4, 7, t, t}));
   }
+  WriteDraftPicks(h.state, 0, DraftPickRecord{});
+  SortDraftPicks(h.state, 0);
+  EXPECT_EQ(ActiveCount(ReadDraftPicks(h.state, 0)), 0);
 }
 
 DraftPick Pick(int year, int round, int orig, int owner) {
@@ -59,22 +61,10 @@ TEST(DraftPicks, SortDropsTradedYearsAndKeepsTheOldOrderWithinARound) {
     EXPECT_NE(p.CurrentYear, 3);
   }
   // Year 0, round 1: own pick first, then the one held at entry 100, then 200.
-  EXPECT_EQ(sorted.Pick[2].OrigTeam, 2);
-  EXPECT_EQ(sorted.Pick[3].OrigTeam, 5);
-  EXPECT_EQ(sorted.Pick[4].OrigTeam, 6);
-  EXPECT_EQ(sorted.Pick[5].Round, 2);
   const DraftPick& tail = sorted.Pick[static_cast<std::size_t>(last)];
-  EXPECT_EQ(tail.CurrentYear, 5);
-  EXPECT_EQ(tail.Round, 8);
-  EXPECT_EQ(tail.OrigTeam, 7);
-}
-
-TEST(DraftPicks, SortOfAnEmptyRecordStaysEmpty) {
-  test::Harness h;
-  h.load(test::StandardLeague(8));
-  WriteDraftPicks(h.state, 0, DraftPickRecord{});
-  SortDraftPicks(h.state, 0);
-  EXPECT_EQ(ActiveCount(ReadDraftPicks(h.state, 0)), 0);
+  EXPECT_EQ((std::array{int(sorted.Pick[2].OrigTeam), int(sorted.Pick[3].OrigTeam), int(sorted.Pick[4].OrigTeam),
+                        int(sorted.Pick[5].Round), int(tail.CurrentYear), int(tail.Round), int(tail.OrigTeam)}),
+            (std::array{2, 5, 6, 2, 5, 8, 7}));
 }
 
 }  // namespace

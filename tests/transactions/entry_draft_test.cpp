@@ -124,18 +124,12 @@ TEST(EntryDraft, OrderByPriorityWithATradedPickAndAPickNobodyHolds) {
 
   ASSERT_TRUE(d.begin(40));
   DraftNew form(d.h.state);
-  DraftTurn t = form.turn();
-  EXPECT_EQ(t.origTeam, 7);
-  EXPECT_EQ(t.holder, 2);
+  EXPECT_EQ((std::array{form.turn().origTeam, form.turn().holder}), (std::array{7, 2}));
   ASSERT_TRUE(form.cmdAdd(1));
-  EXPECT_TRUE(d.h.ui.told(d.names[0] + " added to roster", kTitle));
-  t = form.turn();
-  EXPECT_EQ(t.origTeam, 5) << "team 6's pick is passed";
-  EXPECT_EQ(t.overall, 3);
+  EXPECT_EQ((std::array{form.turn().origTeam, form.turn().overall}), (std::array{5, 3})) << "team 6's pick is passed";
   const std::vector<MadePick> made = form.picks();
   ASSERT_EQ(made.size(), 1u);
-  EXPECT_EQ(made[0].team, "Club2");
-  EXPECT_EQ(made[0].fromTeam, "Club7");
+  EXPECT_EQ(made[0].team + " from " + made[0].fromTeam, "Club2 from Club7");
   loadteam(d.h.state, 2, 0);
   EXPECT_EQ(d.h.state.player(0, 0).Name.str(), d.names[0]);
   EXPECT_EQ(d.h.state.player(0, 0).Status, 0) << "a draftee starts in the minors";

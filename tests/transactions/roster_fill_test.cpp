@@ -1,3 +1,5 @@
+#include "transactions/roster_fill.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,7 +11,6 @@
 #include "league/roster_check.h"
 #include "support/data_league.h"
 #include "transactions/database_players.h"
-#include "transactions/roster_fill.h"
 #include "util/record_file.h"
 
 namespace kvl {
@@ -59,7 +60,9 @@ TEST_P(FillRostersTeams, GivesEveryTeamALegalEvenClub) {
     hi = std::max(hi, c.dressedMean);
     for (int slot = 0; slot < kRosterSlots; ++slot) {
       const Player& p = h.state.player(0, slot);
-      if (!p.empty()) { EXPECT_TRUE(names.insert(p.Name.str()).second) << "on two teams"; }
+      if (!p.empty()) {
+        EXPECT_TRUE(names.insert(p.Name.str()).second) << "on two teams";
+      }
     }
   }
   EXPECT_LE(hi - lo, 2.0) << "dressed means from " << lo << " to " << hi;
