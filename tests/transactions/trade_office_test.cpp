@@ -8,6 +8,7 @@
 
 #include "league/league_files.h"
 #include "league/ratings.h"
+#include "support/golden.h"
 #include "support/league_fixture.h"
 #include "transactions/draft_picks.h"
 #include "util/error.h"
@@ -101,12 +102,6 @@ struct TradeFixture : ::testing::Test {
       h.state.Prospects[0].Age[0] = 18;
       SaveTeam(h.state, t, 0);
     }
-  }
-  std::string Log(const char* name) {
-    std::ifstream in(h.state.swap(name));
-    std::stringstream ss;
-    ss << in.rdbuf();
-    return ss.str();
   }
 };
 
@@ -217,8 +212,8 @@ TEST_F(TradeFixture, ExecutionMovesEverythingAndWritesTheRecord) {
   const std::string text = "To Team1: " + a0.Name.str() + ", " + a1.Name.str() +
                            ", Prospect 0, 2027 Rnd 2 T00, $250,000<BR>\r\nTo Team0: " + b0.Name.str() +
                            "<BR>\r\n<BR>\r\n";
-  EXPECT_EQ(Log(swp::Transactions), text);
-  EXPECT_EQ(Log(swp::History), text);
+  EXPECT_EQ(test::ReadAll(h.state.swap(swp::Transactions)), text);
+  EXPECT_EQ(test::ReadAll(h.state.swap(swp::History)), text);
 }
 
 TEST_F(TradeFixture, WhatASideDoesNotHoldIsNamedAndNothingMoves) {
