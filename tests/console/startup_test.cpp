@@ -6,7 +6,6 @@
 
 #include <fstream>
 
-#include "console/menu.h"
 #include "league/league_files.h"
 #include "support/found_file_set.h"
 #include "support/league_fixture.h"
@@ -110,20 +109,7 @@ TEST(StartUp, FindsALeagueWhoseExtensionIsUpperCase) {
   EXPECT_EQ(FindStartLeague(h.state), (h.home / "Big").string());
 }
 
-TEST(StartUp, WithNoLeagueEveryLeagueCommandIsDisabled) {
-  Harness h;
-  WriteDef(h.home, (h.dir.path() / "deleted").string());
-  StartUp(h.state, std::nullopt);
-  EXPECT_FALSE(h.state.hasLeague());
-  for (const auto& e : ComputeMenu(h.state.league, {h.state.hasLeague(), h.state.Dirty})) {
-    bool fileOnly = e.menu == "&File" || e.menu == "&Tools" || e.menu == "I&nfo";
-    bool leagueFileCommand =
-        e.command == "SaveAs" || e.command == "SaveLeague" || e.command == "UpdateStats" || e.command == "ImportLeague";
-    EXPECT_EQ(e.enabled, fileOnly && !leagueFileCommand) << e.command;
-  }
-}
-
-TEST(StartUp, OpensTheLastLeagueOrTheOneGivenWithItsExtension) {
+TEST(StartUp, OpensTheLastLeagueTheOneGivenOrNone) {
   for (bool given : {false, true}) {
     Harness h;
     std::string live = test::WriteLeagueIn(h, StandardLeague(8), false, "Metro");
@@ -135,6 +121,10 @@ TEST(StartUp, OpensTheLastLeagueOrTheOneGivenWithItsExtension) {
     EXPECT_EQ(h.state.LeagueShort, "Metro");
     EXPECT_TRUE(h.ui.calls().empty());
   }
+  Harness h;
+  WriteDef(h.home, (h.dir.path() / "deleted").string());
+  StartUp(h.state, std::nullopt);
+  EXPECT_FALSE(h.state.hasLeague()) << "nothing found: no league is open";
 }
 
 TEST(StartUp, ADamagedLeagueIsAnUnexpectedError) {

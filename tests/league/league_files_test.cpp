@@ -227,22 +227,6 @@ TEST(LeagueFiles, HeaderCountsAndDivisionsAndOnlyThatManyTeams) {
   EXPECT_EQ(h.state.team(10).Name.str(), "In memory") << "records past the team count are not read";
 }
 
-TEST(LeagueFiles, AFreshLeagueOfNoTeamsSavesAndLoadsAgain) {
-  Harness h;
-  auto plan = StandardLeague(1);
-  plan.header.NumTeams = 0;
-  plan.teams.clear();
-  plan.rosters.clear();
-  std::string path = WriteLeagueIn(h, plan, false);
-  EXPECT_EQ(ReadFileBytes(path + ".lge")[25], 255);
-  LoadLg(h.state, path);
-  EXPECT_EQ(h.state.numTeams(), 0);
-  SaveLg(h.state);
-  EXPECT_EQ(ReadFileBytes(path + ".lge")[25], 255);
-  LoadLg(h.state, path);
-  EXPECT_EQ(h.state.numTeams(), 0);
-}
-
 TEST(LeagueFiles, PointSystemAboveThreeIsResetOutsideThePlayoffs) {
   struct Case {
     int stored;

@@ -267,24 +267,6 @@ void ExpectPlayableLines(LeagueState& s, int t) {
     }
 }
 
-TEST(AutoAllTest, EveryTeamOfAFullLeagueIsSetAndPassesTheRosterCheck) {
-  Harness h;
-  h.load(StandardLeague(24, 7));
-  AutoAllResult r = AutoAll(h.state);
-  EXPECT_EQ(r.teamsSet, 24);
-  EXPECT_TRUE(r.skipped.empty());
-  EXPECT_TRUE(h.state.Dirty);
-  EXPECT_TRUE(CheckRosters(h.state).allValid);
-  for (int t = 0; t < 24; ++t) {
-    loadteam(h.state, t, 0);
-    int dressed = 0;
-    for (int i = 0; i < kRosterSlots; ++i) dressed += h.state.player(0, i).list() == 2;
-    EXPECT_EQ(dressed, 20);
-    ExpectPlayableLines(h.state, t);
-  }
-  EXPECT_EQ(h.ui.callsOf("progress").front().title, "Configuring Rosters/Lines");
-}
-
 TEST(AutoAllTest, ShortTeamsAreLeftAsTheyAreWithTheirShortagesAndGapsAreClosed) {
   LeaguePlan plan = StandardLeague(2);
   auto& shortRoster = plan.rosters[1];
