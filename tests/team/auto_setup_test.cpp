@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "league/league_files.h"
-#include "league/roster_check.h"
 #include "support/league_fixture.h"
 #include "support/team_rosters.h"
 #include "team/auto_all.h"
