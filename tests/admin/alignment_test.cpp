@@ -80,6 +80,8 @@ TEST(AlignLimits, AddsBeyondTheLimitsAreToldBeforeTheNameIsAsked) {
   }
   Harness h;
   h.load(StandardLeague(40));
+  EXPECT_THROW(AlignLeague(h.state).MoveTeam(1, 0, 0), Refused) << "into a full division";
+  EXPECT_EQ(h.state.team(1).Div, 1);
   for (int conf = 0; conf < 2; ++conf) AlignLeague(h.state).ChangeDivisions(conf, 3);
   for (int i = 0; i < 10; ++i) ASSERT_TRUE(AlignLeague(h.state).cmdAdd(i % 2, 2, "X" + std::to_string(i)));
   EXPECT_THROW(AlignLeague(h.state).cmdAdd(0, 2, std::string("Y")), Refused);
@@ -127,6 +129,8 @@ TEST_F(Align, DivisionsAreLoweredOnlyWhenTheDroppedOnesAreEmpty) {
                 "Team3->DIV 2\n",
                 "Unable to reduce division count"));
   EXPECT_EQ(h.state.league.Conf[1].NumDivs, 2);
+  EXPECT_THROW(a.ChangeDivisions(0, 5), Refused);
+  EXPECT_EQ(h.state.league.Conf[0].NumDivs, 2);
 }
 
 TEST_F(Align, ExpansionMarksAndClears) {

@@ -45,6 +45,8 @@ TEST_F(CoachTest, ListEditsClampAndAreKeptOnlyOnYes) {
   EXPECT_EQ(h.state.team(0).Coach.Salary, 20000000) << "the employer's copy follows";
   EXPECT_EQ(list.coach(4).Salary, 100000);
   EXPECT_EQ(list.SalaryCaption(1) + "|" + list.SalaryCaption(4), "Salary with Team0:|Coach 3 asking:");
+  EXPECT_EQ(list.rows(), (std::vector<std::size_t>{1, 2, 3, 4}));
+  EXPECT_TRUE(list.RowText(4).ends_with("Coach 3 asking: $50,000")) << "half the stored salary is shown";
   EXPECT_EQ(onFile(1).OF, 50) << "nothing written before leaving";
   h.ui.push("yes");
   list.cmdExit();
@@ -93,6 +95,9 @@ TEST_F(CoachTest, HiringIsRefusedFromThePlainListAndForAnEmployedCoach) {
 
 TEST_F(CoachTest, HiringFiresThePresentCoachAndLogsBoth) {
   CoachList hire(h.state, 0);
+  h.ui.push("no");
+  EXPECT_FALSE(hire.cmdSelect(4));
+  EXPECT_EQ(h.state.team(0).CoachRec, 1);
   h.ui.push("yes");
   ASSERT_TRUE(hire.cmdSelect(4));
   const Team& t = h.state.team(0);

@@ -81,6 +81,8 @@ TEST_F(ProspectsTest, AFullListRefusesBeforeThePrompt) {
   EXPECT_EQ(v.cmdAdd(), -1);
   EXPECT_TRUE(h.ui.told("No room on prospect list", "Add Prospect"));
   EXPECT_TRUE(h.ui.callsOf("prompt").empty());
+  v.cmdDelete(7);
+  EXPECT_EQ(ViewProspects(h.state, 0).cmdAdd("Again"), 7) << "a deleted entry frees its place, on file too";
 }
 
 }  // namespace
