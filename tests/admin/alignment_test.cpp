@@ -1,63 +1,51 @@
-// Adding, renaming and moving teams, and the division count of a conference.
+// Aligning the league: adding, renaming, moving and deleting teams, and the commands run as a user runs them.
+#include "admin/alignment.h"
+
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include "admin/alignment.h"
 #include "league/league_files.h"
+#include "league/roster_check.h"
+#include "support/found_cli.h"
 #include "support/league_fixture.h"
+#include "team/cards_email.h"
 #include "transactions/draft_picks.h"
 #include "util/error.h"
 #include "util/record_file.h"
 
-namespace kvl {
+namespace kvl::test {
 namespace {
-
-using test::Harness;
 
 std::vector<u8> TeamsIn(const LeagueState& s, int conf, int div) {
   const Division& d = s.league.Conf[std::size_t(conf)].Div[std::size_t(div)];
   return std::vector<u8>(d.Team.begin(), d.Team.begin() + d.NumTeams);
 }
 
-class Align : public ::testing::Test {
- protected:
-  void SetUp() override { h.load(test::StandardLeague(4)); }
+struct Align : ::testing::Test {
+  void SetUp() override { h.load(StandardLeague(4)); }
   Harness h;
 };
 
-TEST_F(Align, AddPromptsAndPlacesANewBlankTeamLast) {
+TEST_F(Align, AddPlacesANewBlankTeamLastAndItSurvivesSaveAndLoad) {
   h.ui.push("Saskatoon Blades");
   ASSERT_TRUE(AlignLeague(h.state).cmdAdd(1, 0));
-  ASSERT_EQ(h.ui.callsOf("prompt").size(), 1u);
-  EXPECT_EQ(h.ui.callsOf("prompt")[0].text, "New Team Name");
-  EXPECT_EQ(h.ui.callsOf("prompt")[0].title, "Add Team");
   ASSERT_EQ(h.state.numTeams(), 5);
   const Team& t = h.state.team(4);
   EXPECT_EQ(t.Name.raw(), "Saskatoon ");  // first ten characters
-  EXPECT_EQ(t.Conf, 1);
-  EXPECT_EQ(t.Div, 0);
-  EXPECT_EQ(t.CurFin, 0);
-  EXPECT_EQ(t.Seats, 0);
-  EXPECT_EQ(t.W[0] + t.L[0] + t.T[0], 0);
-  EXPECT_EQ(t.CoachRec, 0);
-  EXPECT_EQ(t.Priority, 4);  // bottom of the waiver order
+  EXPECT_EQ((std::array{int(t.Conf), int(t.Div), int(t.Priority)}), (std::array{1, 0, 4}));
+  EXPECT_EQ((std::array{t.CurFin, int(t.Seats), t.W[0] + t.L[0] + t.T[0], int(t.CoachRec)}), (std::array{0, 0, 0, 0}));
   EXPECT_EQ(TeamsIn(h.state, 1, 0), (std::vector<u8>{2, 4}));
   loadteam(h.state, 4, 0);
   for (int slot = 0; slot < kRosterSlots; ++slot) EXPECT_TRUE(h.state.player(0, slot).empty());
-  DraftPickRecord picks = ReadDraftPicks(h.state, 4);
   int own = 0;
-  for (const auto& p : picks.Pick) own += p.Active && p.OrigTeam == 4 && p.Owner == 4;
+  for (const auto& p : ReadDraftPicks(h.state, 4).Pick) own += p.Active && p.OrigTeam == 4 && p.Owner == 4;
   EXPECT_EQ(own, 54);
   EXPECT_TRUE(h.state.Dirty);
-}
-
-TEST_F(Align, AddedTeamSurvivesSaveAndLoad) {
-  std::string path = h.state.LeaguePath;
-  AlignLeague(h.state).cmdAdd(0, 1, std::string("Expo"));
   SaveLg(h.state);
-  LoadLg(h.state, path);
+  LoadLg(h.state, h.state.LeaguePath);
   ASSERT_EQ(h.state.numTeams(), 5);
-  EXPECT_EQ(h.state.team(4).Name.str(), "Expo");
-  EXPECT_EQ(TeamsIn(h.state, 0, 1), (std::vector<u8>{1, 4}));
+  EXPECT_EQ(h.state.team(4).Name.str(), "Saskatoon");
+  EXPECT_EQ(TeamsIn(h.state, 1, 0), (std::vector<u8>{2, 4}));
   EXPECT_EQ(ReadFileBytes(h.state.swap(swp::Priority)), (Bytes{0, 1, 2, 3, 4}));
 }
 
@@ -70,37 +58,30 @@ TEST_F(Align, AddWithEmptyOrCancelledNameChangesNothing) {
   EXPECT_FALSE(h.state.Dirty);
 }
 
-struct AddRefusal {
-  const char* name;
-  int conf, div, teams;
-  const char* text;
-};
-
-class AddRefused : public ::testing::TestWithParam<AddRefusal> {};
-
-TEST_P(AddRefused, IsToldAndChangesNothing) {
-  const auto& p = GetParam();
+TEST(AlignLimits, AddsBeyondTheLimitsAreToldBeforeTheNameIsAsked) {
+  struct Case {
+    int conf, div, teams;
+    const char* text;
+  } cases[] = {
+      // StandardLeague deals teams round the four divisions, so 40 fill all of them.
+      {0, 0, 40, "DIV 1 already holds 10 teams, the most a division can."},
+      {1, 2, 4, "CONF 2 has 2 divisions: there is no division 3."},
+      {2, 0, 4, "There is no conference 3: a league has conferences 1 and 2."},
+  };
+  for (const auto& c : cases) {
+    Harness h;
+    h.load(StandardLeague(c.teams));
+    h.ui.push("Never");
+    League before = h.state.league;
+    EXPECT_THROW(AlignLeague(h.state).cmdAdd(c.conf, c.div), Refused);
+    EXPECT_TRUE(h.ui.told(c.text, "Align League")) << h.ui.calls().back().text;
+    EXPECT_EQ(EncodeRecord(h.state.league), EncodeRecord(before)) << c.text;
+    EXPECT_EQ(h.ui.pending(), 1u) << c.text;
+  }
   Harness h;
-  h.load(test::StandardLeague(p.teams));
-  h.ui.push("Never");
-  League before = h.state.league;
-  EXPECT_THROW(AlignLeague(h.state).cmdAdd(p.conf, p.div), Refused);
-  EXPECT_TRUE(h.ui.told(p.text, "Align League")) << h.ui.calls().back().text;
-  EXPECT_EQ(EncodeRecord(h.state.league), EncodeRecord(before));
-  EXPECT_EQ(h.ui.pending(), 1u);  // refused before asking for a name
-}
-
-// StandardLeague deals teams round the four divisions, so 40 teams fill all of them.
-INSTANTIATE_TEST_SUITE_P(Align, AddRefused,
-                         ::testing::Values(AddRefusal{"FullDivision", 0, 0, 40, "DIV 1 already holds 10 teams, the most a division can."},
-                                           AddRefusal{"NoSuchDivision", 1, 2, 4, "CONF 2 has 2 divisions: there is no division 3."},
-                                           AddRefusal{"NoSuchConference", 2, 0, 4, "There is no conference 3: a league has conferences 1 and 2."}),
-                         [](const auto& i) { return std::string(i.param.name); });
-
-TEST(AlignLimits, FiftyTeamsIsTheMost) {
-  Harness h;
-  auto plan = test::StandardLeague(40);
-  h.load(plan);
+  h.load(StandardLeague(40));
+  EXPECT_THROW(AlignLeague(h.state).MoveTeam(1, 0, 0), Refused) << "into a full division";
+  EXPECT_EQ(h.state.team(1).Div, 1);
   for (int conf = 0; conf < 2; ++conf) AlignLeague(h.state).ChangeDivisions(conf, 3);
   for (int i = 0; i < 10; ++i) ASSERT_TRUE(AlignLeague(h.state).cmdAdd(i % 2, 2, "X" + std::to_string(i)));
   EXPECT_THROW(AlignLeague(h.state).cmdAdd(0, 2, std::string("Y")), Refused);
@@ -108,18 +89,12 @@ TEST(AlignLimits, FiftyTeamsIsTheMost) {
   EXPECT_EQ(h.state.numTeams(), 50);
 }
 
-TEST_F(Align, RenamesPromptAndCutToTheFieldWidth) {
+TEST_F(Align, RenamesAreCutToTheFieldWidth) {
   h.ui.push("Western Conference");
   h.ui.push("Pacific Northwest");
   AlignLeague a(h.state);
   ASSERT_TRUE(a.cmdRenameConf(1));
   ASSERT_TRUE(a.cmdRenameDiv(1, 1));
-  auto prompts = h.ui.callsOf("prompt");
-  ASSERT_EQ(prompts.size(), 2u);
-  EXPECT_EQ(prompts[0].text, "New Conference Name?");
-  EXPECT_EQ(prompts[0].title, "Rename Conference");
-  EXPECT_EQ(prompts[1].text, "New Division Name?");
-  EXPECT_EQ(prompts[1].title, "Rename Division");
   EXPECT_EQ(h.state.league.Conf[1].Name.raw(), "Western Conf");
   EXPECT_EQ(h.state.league.Conf[1].Div[1].Name.raw(), "Pacific No");
   EXPECT_FALSE(a.cmdRenameConf(0));  // cancelled
@@ -127,42 +102,35 @@ TEST_F(Align, RenamesPromptAndCutToTheFieldWidth) {
 }
 
 TEST_F(Align, MoveAsksThenUpdatesListsAndCounts) {
+  h.ui.push("no");
+  EXPECT_FALSE(AlignLeague(h.state).MoveTeam(0, 1, 1));
+  EXPECT_EQ(TeamsIn(h.state, 0, 0), std::vector<u8>{0});
+  EXPECT_EQ(h.state.team(0).Conf, 0);
   h.ui.push("yes");
   ASSERT_TRUE(AlignLeague(h.state).MoveTeam(0, 1, 1));
-  EXPECT_TRUE(h.ui.callsOf("ask").size() == 1);
-  EXPECT_EQ(h.ui.callsOf("ask")[0].text, "This will disrupt current schedule! Continue?");
   EXPECT_EQ(TeamsIn(h.state, 0, 0), std::vector<u8>{});
   EXPECT_EQ(TeamsIn(h.state, 1, 1), (std::vector<u8>{3, 0}));
   EXPECT_EQ(h.state.team(0).Conf, 1);
   EXPECT_EQ(h.state.team(0).Div, 1);
 }
 
-TEST_F(Align, MoveAnsweredNoLeavesTheTeam) {
-  h.ui.push("no");
-  EXPECT_FALSE(AlignLeague(h.state).MoveTeam(0, 1, 1));
-  EXPECT_EQ(TeamsIn(h.state, 0, 0), std::vector<u8>{0});
-  EXPECT_EQ(h.state.team(0).Conf, 0);
-}
-
-TEST_F(Align, LoweringDivisionsWithEmptyHighDivisionsSucceedsAtOnce) {
+TEST_F(Align, DivisionsAreLoweredOnlyWhenTheDroppedOnesAreEmpty) {
   AlignLeague a(h.state);
   a.ChangeDivisions(0, 4);
   EXPECT_EQ(h.state.league.Conf[0].NumDivs, 4);
   EXPECT_EQ(h.state.league.Conf[0].Div[2].Name.raw(), "NewDiv    ");
-  EXPECT_EQ(h.state.league.Conf[0].Div[3].NumTeams, 0);
-  a.ChangeDivisions(0, 1 + 1);
+  a.ChangeDivisions(0, 2);
   EXPECT_EQ(h.state.league.Conf[0].NumDivs, 2);
   EXPECT_TRUE(h.ui.callsOf("tell").empty());
-}
-
-TEST_F(Align, LoweringDivisionsThatHoldTeamsIsRefusedWithTheirNames) {
-  AlignLeague a(h.state);
   EXPECT_THROW(a.ChangeDivisions(1, 1), Refused);
-  EXPECT_TRUE(h.ui.told("You cannot reduce the number of divisions per conference until\n"
-                        "the following teams have been pulled out of thie respective divisions:\n"
-                        "Team3->DIV 2\n",
-                        "Unable to reduce division count"));
+  EXPECT_TRUE(
+      h.ui.told("You cannot reduce the number of divisions per conference until\n"
+                "the following teams have been pulled out of thie respective divisions:\n"
+                "Team3->DIV 2\n",
+                "Unable to reduce division count"));
   EXPECT_EQ(h.state.league.Conf[1].NumDivs, 2);
+  EXPECT_THROW(a.ChangeDivisions(0, 5), Refused);
+  EXPECT_EQ(h.state.league.Conf[0].NumDivs, 2);
 }
 
 TEST_F(Align, ExpansionMarksAndClears) {
@@ -180,11 +148,284 @@ TEST_F(Align, BrokenListsAreTheFormsUnexpectedErrorNamingThePlace) {
   auto told = h.ui.callsOf("tell");
   ASSERT_EQ(told.size(), 1u);
   EXPECT_EQ(told[0].title, "Unexpected error");
-  EXPECT_EQ(told[0].text.rfind("Unexpected error in AlignLeague.\n" + h.state.LeaguePath + ".lge: ", 0), 0u) << told[0].text;
-  EXPECT_NE(told[0].text.find("conference 1 (CONF 1), division 1 (DIV 1), place 1: team 187, the league has teams 0 to"),
-            std::string::npos)
+  EXPECT_EQ(told[0].text.rfind("Unexpected error in AlignLeague.\n" + h.state.LeaguePath + ".lge: ", 0), 0u)
+      << told[0].text;
+  EXPECT_NE(
+      told[0].text.find("conference 1 (CONF 1), division 1 (DIV 1), place 1: team 187, the league has teams 0 to"),
+      std::string::npos)
       << told[0].text;
 }
 
+constexpr int kTeams = 6;
+constexpr int kGone = 2;
+// Waiver priority before the delete, top first.
+const Bytes kPriority{3, 1, 5, 0, 2, 4};
+std::size_t At(int i) { return static_cast<std::size_t>(i); }
+// Old team number -> new one after team kGone is gone.
+u8 New(int t) { return static_cast<u8>(t < kGone ? t : t - 1); }
+
+template <class R>
+std::vector<R> Records(const fs::path& p) {
+  RecordFile f(p, R::kSize);
+  std::vector<R> out;
+  for (std::size_t n = 1; n <= f.count(); ++n) out.push_back(f.getRecord<R>(n));
+  return out;
+}
+
+template <class R>
+void PutAll(const fs::path& p, const std::vector<R>& records) {
+  RemoveIfExists(p);
+  RecordFile f(p, R::kSize);
+  for (std::size_t i = 0; i < records.size(); ++i) f.putRecord(i + 1, records[i]);
+}
+
+WaiverRecord Waived(const char* name, int owner, int holder, int claimedBy) {
+  WaiverRecord w;
+  w.Name.set(name);
+  w.Owner = u8(owner), w.Holder = u8(holder), w.ClaimedBy = u8(claimedBy);
+  for (int t = 0; t < kTeams; ++t) w.Open[At(t)] = static_cast<i16>(-(t + 1));
+  return w;
+}
+
+// A league whose every file names teams: linked coaches, traded picks, a
+// shuffled priority list, a half-played schedule, waivers, futures, e-mail,
+// career lines and the database.
+struct DeleteTeam : ::testing::Test {
+  void SetUp() override {
+    auto plan = StandardLeague(kTeams);
+    for (std::size_t t = 0; t < kTeams; ++t) {
+      plan.coaches[t].Team = u8(t + 1), plan.teams[t].CoachRec = u8(t + 1);
+      plan.teams[t].Coach.Name = plan.coaches[t].Name;
+    }
+    plan.header.ScheduleMade = kTrue;
+    path = h.load(plan);
+    h.ui.setFallback(Answer::Yes);
+    std::vector<DraftPickRecord> picks(kTeams);
+    std::vector<ContractFuture> futures(kTeams);
+    std::vector<EmailLine> mail;
+    for (int t = 0; t < kTeams; ++t) {
+      int k = 1;
+      for (u8 year = 0; year < 6; ++year)
+        for (u8 round = 0; round < 9; ++round) picks[At(t)].Pick[At(k++)] = {year, round, u8(t), u8(t), kTrue};
+      futures[At(t)].OwnerTeam[0][0] = u8(t), futures[At(t)].Amount[0][0] = 1000 * (t + 1);
+      mail.push_back({t, "gm" + std::to_string(t) + "@example.org"});
+      h.state.team(kPriority[At(t)]).Priority = u8(t);
+      for (int b = t + 1; b < kTeams; ++b) {
+        ScheduleRecord g;
+        g.HomeTeam = u8(t), g.AwayTeam = u8(b), g.Played = games.size() < 7 ? -1 : 0;
+        g.GameNumber = static_cast<i16>(games.size() + 1);
+        games.push_back(g);
+      }
+    }
+    picks[4].Pick[55] = {0, 0, 2, 4, kTrue};                        // team 4 holds team 2's pick
+    picks[0].Pick[55] = {1, 3, 5, 0, kTrue};                        // team 0 holds team 5's pick
+    picks[4].Pick[20] = DraftPick{};                                // a gap left by a trade
+    futures[1].OwnerTeam[1][3] = 2, futures[1].Amount[1][3] = 500;  // a year owed to the team going
+    futures[1].OwnerTeam[2][3] = 5, futures[1].Amount[2][3] = 600;
+    PutAll(h.state.swap(swp::Picks), picks);
+    PutAll(h.state.swap(swp::Futures), futures);
+    PutAll(h.state.swap(swp::Schedule), games);
+    WriteFileAtomic(h.state.swap(swp::Priority), kPriority);
+    h.state.league.GamesPlayed = 7;
+    h.state.league.LeagueGames = static_cast<i16>(games.size());
+    PutAll(h.state.swap(swp::Waivers), std::vector<WaiverRecord>{Waived("T2 C 1", 2, 2, 255), Waived("T2 C 2", 2, 4, 4),
+                                                                 Waived("T5 C 1", 5, 5, 255)});
+    WriteEmailLines(h.state.swap(swp::Email), mail);
+    PutAll(h.state.swap(swp::Career), std::vector<CareerRecord>{{2, MakePlayer("Left Two", kCentre, 50)},
+                                                                {5, MakePlayer("Left Five", kCentre, 50)}});
+    PutAll(h.state.swap(swp::Database), std::vector<DbRecord>{{-1, MakePlayer("T2 C 1", kCentre, 50)},
+                                                              {-1, MakePlayer("T3 C 1", kCentre, 50)},
+                                                              {0, MakePlayer("Nobody Yet", kCentre, 50)},
+                                                              {-1, MakePlayer("T2 D 1", kCentre, 50)}});
+  }
+  Harness h;
+  std::string path;
+  std::vector<ScheduleRecord> games;
+};
+
+TEST_F(DeleteTeam, LaterTeamsRostersDivisionsCoachesAndPriorityMoveDown) {
+  ASSERT_TRUE(AlignLeague(h.state).cmdDelete(kGone));
+  ASSERT_EQ(h.state.numTeams(), kTeams - 1);
+  for (int old = 0; old < kTeams; ++old) {
+    if (old == kGone) continue;
+    EXPECT_EQ(h.state.team(New(old)).Name.str(), "Team" + std::to_string(old));
+    loadteam(h.state, New(old), 0);
+    EXPECT_EQ(h.state.player(0, 0).Name.str(), "T" + std::to_string(old) + " C 1");
+  }
+  EXPECT_EQ(fs::file_size(h.state.swap(swp::Roster)), std::uintmax_t{(kTeams - 1) * kRosterSlots * Player::kSize});
+  EXPECT_EQ(fs::file_size(h.state.swap(swp::Teams)), std::uintmax_t{(kTeams - 1) * Team::kSize});
+  EXPECT_TRUE(h.state.Dirty);
+  // Team t stood in conference (t % 4) / 2, division t % 2.
+  auto list = [&](int c, int d) {
+    const Division& div = h.state.league.Conf[At(c)].Div[At(d)];
+    return std::vector<u8>(div.Team.begin(), div.Team.begin() + div.NumTeams);
+  };
+  EXPECT_EQ(list(0, 0), (std::vector<u8>{0, New(4)}));
+  EXPECT_EQ(list(0, 1), (std::vector<u8>{1, New(5)}));
+  EXPECT_EQ(list(1, 0), std::vector<u8>{});
+  EXPECT_EQ(list(1, 1), std::vector<u8>{New(3)});
+  auto coaches = Records<Coach>(h.state.swap(swp::Coaches));
+  ASSERT_EQ(coaches.size(), At(kTeams));
+  for (int c = 0; c < kTeams; ++c)
+    EXPECT_EQ(coaches[At(c)].Team, c == kGone ? Coach::kNoTeam : New(c) + 1) << "coach " << c;
+  Bytes places = ReadFileBytes(h.state.swap(swp::Priority));
+  EXPECT_EQ(places, (Bytes{New(3), New(1), New(5), New(0), New(4)}));
+  for (std::size_t place = 0; place < places.size(); ++place) EXPECT_EQ(h.state.team(places[place]).Priority, place);
+}
+
+TEST_F(DeleteTeam, PicksFollowTheirHoldersAndPicksMadeForTheTeamLapse) {
+  AlignLeague(h.state).cmdDelete(kGone);
+  auto picks = Records<DraftPickRecord>(h.state.swap(swp::Picks));
+  ASSERT_EQ(picks.size(), At(kTeams - 1));
+  // Old team 4 loses team 2's pick and its gap closes; old team 0 keeps old team 5's.
+  const auto& four = picks[New(4)];
+  int active = 0;
+  for (const auto& p : four.Pick) active += p.Active != 0;
+  EXPECT_EQ(active, 53);
+  for (int k = 1; k <= 53; ++k)
+    EXPECT_EQ((std::array{four.Pick[At(k)].Active != 0, four.Pick[At(k)].OrigTeam == New(4),
+                          four.Pick[At(k)].Owner == New(4)}),
+              (std::array{true, true, true}))
+        << k;
+  EXPECT_EQ(picks[0].Pick[55].OrigTeam, New(5));
+  EXPECT_EQ(picks[0].Pick[55].Owner, 0);
+  EXPECT_EQ(picks[New(5)].Pick[1].OrigTeam, New(5));
+}
+
+TEST_F(DeleteTeam, ScheduleDropsTheTeamsGamesAndNoKeepsEverything) {
+  h.ui.push("no");
+  Bytes roster = ReadFileBytes(h.state.swap(swp::Roster));
+  EXPECT_FALSE(AlignLeague(h.state).cmdDelete(kGone));
+  EXPECT_EQ(h.state.numTeams(), kTeams);
+  EXPECT_EQ(ReadFileBytes(h.state.swap(swp::Roster)), roster);
+  EXPECT_FALSE(h.state.Dirty);
+  ASSERT_TRUE(AlignLeague(h.state).cmdDelete(kGone));
+  std::vector<ScheduleRecord> expected;
+  int played = 0;
+  for (ScheduleRecord e : games) {
+    if (e.HomeTeam == kGone || e.AwayTeam == kGone) continue;
+    e.HomeTeam = New(e.HomeTeam), e.AwayTeam = New(e.AwayTeam);
+    e.GameNumber = static_cast<i16>(expected.size() + 1);
+    played += e.Played != 0;
+    expected.push_back(e);
+  }
+  auto after = Records<ScheduleRecord>(h.state.swap(swp::Schedule));
+  ASSERT_EQ(after.size(), expected.size());
+  for (std::size_t i = 0; i < after.size(); ++i) EXPECT_EQ(EncodeRecord(after[i]), EncodeRecord(expected[i])) << i;
+  EXPECT_EQ(h.state.league.GamesPlayed, played);
+  EXPECT_EQ(h.state.league.LeagueGames, static_cast<i16>(expected.size()));
+}
+
+TEST_F(DeleteTeam, WaiversFuturesEmailCareerAndDatabaseFollowTheirTeams) {
+  AlignLeague(h.state).cmdDelete(kGone);
+  auto w = Records<WaiverRecord>(h.state.swap(swp::Waivers));
+  ASSERT_EQ(w.size(), 3u);
+  EXPECT_TRUE(w[0].Name.empty());
+  EXPECT_EQ((std::array{w[1].Holder, w[1].ClaimedBy, w[1].Owner}), (std::array<u8, 3>{New(4), New(4), 255}))
+      << "the placing team is gone: nobody may recall him";
+  EXPECT_EQ((std::array{w[2].Holder, w[2].ClaimedBy}), (std::array<u8, 2>{New(5), 255}));
+  // Open is per team number: team 2's flag goes, later flags move down.
+  EXPECT_EQ((std::array{w[2].Open[0], w[2].Open[At(New(3))], w[2].Open[At(New(5))], w[2].Open[5]}),
+            (std::array<i16, 4>{-1, -4, -6, 0}));
+  auto futures = Records<ContractFuture>(h.state.swap(swp::Futures));
+  ASSERT_EQ(futures.size(), At(kTeams - 1));
+  for (int old = 0; old < kTeams; ++old) {
+    if (old == kGone) continue;
+    EXPECT_EQ(futures[New(old)].Amount[0][0], 1000 * (old + 1));
+    EXPECT_EQ(futures[New(old)].OwnerTeam[0][0], New(old));
+  }
+  EXPECT_EQ(futures[1].OwnerTeam[1][3], 1);  // owed to the team going: back to its own team
+  EXPECT_EQ(futures[1].OwnerTeam[2][3], New(5));
+  auto mail = ReadEmailLines(h.state.swap(swp::Email));
+  ASSERT_EQ(mail.size(), At(kTeams - 1));
+  for (const auto& e : mail)
+    EXPECT_EQ(e.address, "gm" + std::to_string(e.team < kGone ? e.team : e.team + 1) + "@example.org");
+  auto career = Records<CareerRecord>(h.state.swap(swp::Career));
+  ASSERT_EQ(career.size(), 1u);
+  EXPECT_EQ(career[0].P.Name.str(), "Left Five");
+  EXPECT_EQ(career[0].Team, New(5));
+  std::vector<i16> flags;
+  for (const auto& d : Records<DbRecord>(h.state.swap(swp::Database))) flags.push_back(d.DbFlag);
+  EXPECT_EQ(flags, (std::vector<i16>{0, -1, 0, 0})) << "the team's players are free again; team 3's stays held";
+}
+
+TEST_F(DeleteTeam, SavedLeagueLoadsAgainAndPassesTheChecks) {
+  AlignLeague(h.state).cmdDelete(kGone);
+  SaveLg(h.state);
+  h.state.leagueLock.release();  // closed, as a second run would find it
+  ScriptedUi ui2;
+  LeagueState again(ui2, h.clock, h.home);
+  LoadLg(again, path);
+  EXPECT_EQ(again.numTeams(), kTeams - 1);
+  EXPECT_TRUE(RosterCheck(again));
+  // The coach check tells every link it has to repair: there must be none.
+  for (const auto& c : ui2.callsOf("tell")) ADD_FAILURE() << c.title << ": " << c.text;
+  for (int t = 0; t < again.numTeams(); ++t)
+    EXPECT_EQ(again.team(t).Coach.Name.str(), "Coach " + std::to_string(t < kGone ? t : t + 1));
+}
+
+TEST_F(DeleteTeam, DeletingTheLastTeamLeavesAnEmptyLeague) {
+  for (int t = kTeams - 1; t >= 0; --t) ASSERT_TRUE(AlignLeague(h.state).cmdDelete(t)) << t;
+  EXPECT_EQ(h.state.numTeams(), 0);
+  EXPECT_EQ(fs::file_size(h.state.swap(swp::Roster)), 0u);
+  for (const auto& c : Records<Coach>(h.state.swap(swp::Coaches))) EXPECT_EQ(c.Team, Coach::kNoTeam);
+}
+
+class AdminCli : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    fs::create_directories(dir.path() / "league");
+    league = (dir.path() / "league" / "lg").string();
+    test::WriteLeague(test::StandardLeague(8), league);
+  }
+  test::ProgramRun Run(std::vector<std::string> args) {
+    args.insert(args.begin(), {"--home", (dir.path() / "home").string(), "--league", league});
+    return test::RunKvl(args, dir.path() / "io");
+  }
+  test::TempDir dir;
+  std::string league;
+};
+
+struct Refusal {
+  std::vector<std::string> args;
+  const char* told;
+};
+
+TEST_F(AdminCli, RefusalsTellTheSystemsTextAndExitOne) {
+  const std::vector<Refusal> cases{
+      {{"align", "divisions", "1", "1"},
+       "[Unable to reduce division count] You cannot reduce the number of divisions per conference until"},
+      {{"align", "add", "3", "1", "Expo"}, "[Align League] There is no conference 3"},
+      {{"align", "move", "Nowhere", "1", "1"}, "There is no team \"Nowhere\""},
+      {{"options", "--set", "ShotsLevel=12"}, "[Options] ShotsLevel takes a whole number from 1 to 9, not \"12\"."},
+      {{"player", "0", "30"}, "[Edit Player] Slot 30 of Team0 holds no player."},
+      {{"view-team", "0", "--set", "Colour=red"}, "[View Team] There is no field \"Colour\" on this card."}};
+  for (const auto& c : cases) {
+    auto r = Run(c.args);
+    std::string cmd = fmt::format("{}", fmt::join(c.args, " "));
+    EXPECT_EQ(r.status, 1) << cmd << "\n" << r.out << r.err;
+    EXPECT_NE(r.out.find(c.told), std::string::npos) << cmd << "\n" << r.out;
+  }
+}
+
+TEST_F(AdminCli, EditsAreSavedWithTheLeague) {
+  ASSERT_EQ(Run({"--yes", "align", "delete", "Team2"}).status, 0);
+  ASSERT_EQ(Run({"--yes", "options", "--set", "ShotsLevel=7", "OptMoney=on"}).status, 0);
+  ASSERT_EQ(Run({"--yes", "player", "2", "0", "--set", "Weight=210"}).status, 0);
+  ASSERT_EQ(Run({"--yes", "view-team", "T03", "--set", "Ticket=55"}).status, 0);
+
+  auto info = Run({"info"});
+  EXPECT_NE(info.out.find("Teams: 7"), std::string::npos) << info.out;
+  EXPECT_EQ(info.out.find("invalid rosters"), std::string::npos) << info.out;
+  auto options = Run({"options"});
+  EXPECT_NE(options.out.find("ShotsLevel       Shots"), std::string::npos);
+  EXPECT_NE(options.out.find("Shots                                                7\n"), std::string::npos)
+      << options.out;
+  auto player = Run({"player", "2", "0"});
+  EXPECT_NE(player.out.find("T3 C 1"), std::string::npos) << player.out;  // old team 3 is team 2 now
+  EXPECT_NE(player.out.find("Weight 210"), std::string::npos) << player.out;
+  EXPECT_NE(Run({"view-team", "2"}).out.find("Ticket $55"), std::string::npos);
+}
+
 }  // namespace
-}  // namespace kvl
+}  // namespace kvl::test

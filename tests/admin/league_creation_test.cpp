@@ -1,8 +1,9 @@
+#include "admin/league_creation.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "admin/league_creation.h"
 #include "league/league_files.h"
 #include "support/league_fixture.h"
 #include "transactions/draft_picks.h"
@@ -36,14 +37,18 @@ struct Fixture {
   }
 };
 
-TEST(CreateLeague, NoToTheFirstQuestionChangesNothing) {
-  Fixture f;
-  Bytes before = ReadFileBytes(f.h.state.swap(swp::Roster));
-  f.h.ui.push("no");
-  EXPECT_FALSE(CreateLeague(f.h.state));
-  EXPECT_EQ(f.h.state.numTeams(), 8);
-  EXPECT_EQ(ReadFileBytes(f.h.state.swap(swp::Roster)), before);
-  EXPECT_TRUE(f.h.ui.callsOf("chooseFile").empty());
+TEST(CreateLeague, NoToTheFirstQuestionOrToAnotherDatabaseChangesNothing) {
+  for (bool missing : {false, true}) {
+    Fixture f;
+    Bytes before = ReadFileBytes(f.h.state.swap(swp::Roster));
+    if (missing) f.h.ui.push("yes"), f.h.ui.push((f.h.dir.path() / "nowhere.drs").string());
+    f.h.ui.push("no");
+    EXPECT_FALSE(CreateLeague(f.h.state));
+    EXPECT_EQ(f.h.ui.callsOf("chooseFile").size(), missing ? 1u : 0u);
+    EXPECT_EQ(f.h.ui.callsOf("ask").size(), missing ? 2u : 1u) << "another database is offered";
+    EXPECT_EQ(f.h.state.numTeams(), 8);
+    EXPECT_EQ(ReadFileBytes(f.h.state.swap(swp::Roster)), before);
+  }
 }
 
 TEST(CreateLeague, MakesAnUnnamedLeagueWithNoTeamsAndEveryMarkClear) {
@@ -58,17 +63,14 @@ TEST(CreateLeague, MakesAnUnnamedLeagueWithNoTeamsAndEveryMarkClear) {
   EXPECT_EQ(s.league.LeagueName.raw(), "The Very Long Name Of A N");
   EXPECT_TRUE(s.LeaguePath.empty());
   EXPECT_TRUE(s.Dirty);
-  EXPECT_EQ(s.league.Conf[1].Name.raw(), "CONF 2      ");
-  EXPECT_EQ(s.league.Conf[0].Div[2].Name.raw(), "DIV 3     ");
-  EXPECT_EQ(s.league.Conf[0].NumDivs, 2);
-  EXPECT_EQ(s.league.Conf[1].NumDivs, 2);
+  EXPECT_EQ(s.league.Conf[1].Name.raw() + s.league.Conf[0].Div[2].Name.raw(), "CONF 2      DIV 3     ");
+  EXPECT_EQ(s.league.Conf[0].NumDivs + s.league.Conf[1].NumDivs, 4);
 
   RecordFile dr(s.swap(swp::Database), DbRecord::kSize);
   ASSERT_EQ(dr.count(), 12u);
   for (std::size_t i = 1; i <= 12; ++i) {
     DbRecord r = dr.getRecord<DbRecord>(i);
-    EXPECT_EQ(r.DbFlag, 0) << "record " << i;
-    EXPECT_EQ(r.P.Name.str(), "Db Player " + std::to_string(i - 1));
+    EXPECT_EQ(r.DbFlag, 0) << "every mark is cleared: " << r.P.Name.str();
   }
   EXPECT_EQ(fs::file_size(s.swap(swp::Roster)), 0u) << "the old league's players are gone";
   EXPECT_EQ(ReadFileBytes(s.swap(swp::OldSchedule)), Bytes(4642, 0));
@@ -91,23 +93,13 @@ TEST(CreateLeague, AddedTeamsHoldFiftyFourPicksAndTheLeagueSavesAndLoads) {
       EXPECT_EQ(s.team(t).Name.str(), "Club" + std::to_string(t));
       EXPECT_EQ(s.team(t).Lines.at(0, 0), kNoPlayer);
       DraftPickRecord picks = ReadDraftPicks(s, t);
-      EXPECT_EQ(std::count_if(picks.Pick.begin(), picks.Pick.end(), [](const DraftPick& p) { return p.Active != 0; }), 54);
+      EXPECT_EQ(std::count_if(picks.Pick.begin(), picks.Pick.end(), [](const DraftPick& p) { return p.Active != 0; }),
+                54);
       EXPECT_TRUE(std::all_of(picks.Pick.begin() + 1, picks.Pick.begin() + 55,
                               [t](const DraftPick& p) { return p.Owner == t && p.OrigTeam == t; }));
     }
     EXPECT_EQ(s.league.Conf[1].Div[1].NumTeams, teams / 2);
   }
-}
-
-TEST(CreateLeague, AMissingDatabaseOffersAnotherAndNoEndsIt) {
-  Fixture f;
-  f.h.ui.push("yes");
-  f.h.ui.push((f.h.dir.path() / "nowhere.drs").string());
-  f.h.ui.push("no");
-  EXPECT_FALSE(CreateLeague(f.h.state));
-  EXPECT_EQ(f.h.ui.callsOf("ask").back().text,
-            "The player database you have supplied \ndoes not exist. Would you like to try another player database?");
-  EXPECT_EQ(f.h.state.numTeams(), 8);
 }
 
 TEST(CreateLeague, ADamagedDatabaseIsToldAndLeavesTheOpenLeagueAlone) {

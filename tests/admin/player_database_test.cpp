@@ -1,18 +1,28 @@
-// The player database form and the ratings update: deletes keep every other
-// record byte for byte, bad files are refused at open, namesakes take
-// successive records, and a merge gives the league the database's values.
+// The player database form and the ratings update: edits, deletes that keep
+// every other record byte for byte, refused files, namesakes taking successive
+// records, and merges giving the league the database's values.
 #include "admin/player_database.h"
 
 #include <gtest/gtest.h>
 
 #include "admin/update_stats.h"
 #include "league/league_files.h"
+#include "support/failing_file_system.h"
 #include "support/league_fixture.h"
 #include "util/error.h"
 #include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
+
+Bytes Encode(const std::vector<DbRecord>& records) {
+  Bytes all;
+  for (const DbRecord& r : records) {
+    Bytes b = EncodeRecord(r);
+    all.insert(all.end(), b.begin(), b.end());
+  }
+  return all;
+}
 
 struct PlayerDatabaseTest : ::testing::Test {
   Harness h;
@@ -21,17 +31,15 @@ struct PlayerDatabaseTest : ::testing::Test {
     h.load(StandardLeague(2));
     file = h.dir.path() / "new.drs";
   }
-  // Records named "P1".."Pn" with ratings 41.., each a different byte pattern.
+  // Records named "P1".."Pn" with ratings 41.., even ones used.
   Bytes Write(int n) {
-    Bytes all;
-    for (int i = 1; i <= n; ++i) {
-      Bytes r =
-          EncodeRecord(DbRecord{static_cast<i16>(i % 2 ? 0 : -1), MakePlayer("P" + std::to_string(i), i % 5, 40 + i)});
-      all.insert(all.end(), r.begin(), r.end());
-    }
-    WriteFileAtomic(file, all);
-    return all;
+    std::vector<DbRecord> v;
+    for (int i = 1; i <= n; ++i)
+      v.push_back({static_cast<i16>(i % 2 ? 0 : -1), MakePlayer("P" + std::to_string(i), i % 5, 40 + i)});
+    WriteFileAtomic(file, Encode(v));
+    return Encode(v);
   }
+  void WriteDb(const std::vector<DbRecord>& v) { WriteFileAtomic(file, Encode(v)); }
 };
 
 TEST_F(PlayerDatabaseTest, DeletingKeepsEveryOtherRecordByteForByte) {
@@ -39,24 +47,26 @@ TEST_F(PlayerDatabaseTest, DeletingKeepsEveryOtherRecordByteForByte) {
     const char* what;
     int records, index;
     const char* answer;
+    int failAt = 0;  // the file system step that fails
   } cases[] = {
-      {"the first", 4, 0, "yes"},  {"one in the middle", 4, 2, "yes"},
-      {"the last", 4, 3, "yes"},   {"the only one leaves an empty database", 1, 0, "yes"},
+      {"the first", 4, 0, "yes"},
+      {"the last", 4, 3, "yes"},
+      {"the only one leaves an empty database", 1, 0, "yes"},
       {"answered no", 4, 1, "no"},
+      {"a refused rename is copied instead", 4, 2, "yes", 2},
   };
   for (const auto& c : cases) {
     Bytes expected = Write(c.records);
+    FailingFileSystem failing(c.failAt);
+    h.state.fileSystem = &failing;
     frmPlayerDB f(h.state, file);
     h.ui.push(c.answer);
     const bool yes = std::string(c.answer) == "yes";
     EXPECT_EQ(f.cmdDelete(c.index), yes) << c.what;
-    EXPECT_EQ(h.ui.callsOf("ask").back().text, "Delete P" + std::to_string(c.index + 1) + " ?") << c.what;
-    if (yes) {
-      const auto at = expected.begin() + c.index * static_cast<long>(DbRecord::kSize);
-      expected.erase(at, at + DbRecord::kSize);
-    }
+    h.state.fileSystem = &RealFileSystem();
+    if (yes) expected.erase(expected.begin() + c.index * 88, expected.begin() + (c.index + 1) * 88);
     EXPECT_EQ(ReadFileBytes(file), expected) << c.what;
-    EXPECT_EQ(frmPlayerDB(h.state, file).records().size(), f.records().size()) << c.what << ": opens again";
+    EXPECT_FALSE(fs::exists(h.state.AppPath / "temp.drs")) << c.what;
   }
 }
 
@@ -73,6 +83,73 @@ TEST_F(PlayerDatabaseTest, AFileOfPartRecordsIsRefusedAtOpen) {
   }
 }
 
+TEST_F(PlayerDatabaseTest, FieldsTakeOnlyValuesThatFitAndUpdateWritesThem) {
+  struct Case {
+    const char* field;
+    const char* text;
+    const char* shown;  // in the fields afterwards; nullptr: refused, nothing changes
+  } cases[] = {
+      {"Name", "Zed Zulu", "Name Zed Zulu\n"},
+      {"Birthplace", "Finland", "Birthplace Fin\n"},
+      {"Hand", "R", "Hand R "},
+      {"Hand", "X", nullptr},
+      {"Salary", "$1500", "Salary $1,500"},
+      {"Salary", "-1", nullptr},
+      {"Spd", "77", "Spd 77 "},
+      {"Spd", "256", nullptr},
+      {"Spd", "7.5", nullptr},
+      {"Spd", " ", nullptr},
+      {"Pos", "D", "Pos D "},
+      {"Pos", "Q", nullptr},
+      {"Contract", "3", "Contract 3 "},
+      {"Age", "-3", nullptr},
+      {"Colour", "red", nullptr},
+  };
+  Write(3);
+  frmPlayerDB f(h.state, file);
+  const Bytes untouched = ReadFileBytes(file);
+  f.cmdUpdate();  // nothing selected
+  EXPECT_EQ(ReadFileBytes(file), untouched);
+  f.Select(1);
+  for (const auto& c : cases) {
+    const std::string before = f.FieldsText();
+    EXPECT_EQ(f.SetField(c.field, c.text), c.shown != nullptr) << c.field << "=" << c.text;
+    const std::string after = f.FieldsText();
+    EXPECT_TRUE(c.shown ? after.find(c.shown) != std::string::npos : after == before) << c.text << "\n" << after;
+  }
+  f.cmdUpdate();
+  const Player p = frmPlayerDB(h.state, file).records()[1].P;
+  EXPECT_EQ(p.Name.str(), "Zed Zulu");
+  EXPECT_EQ(p.rating(kSpd), 77);
+  EXPECT_EQ(p.Salary, 1500);
+  EXPECT_EQ(p.Pos, kDefence);
+}
+
+TEST_F(PlayerDatabaseTest, ListingAddingClearingAndThePlayersPage) {
+  Player odd = MakePlayer("Odd", 7, 50);
+  odd.rating(kSco) = 255;
+  odd.Hand = 0;
+  WriteDb({{0, MakePlayer("Plain", kCentre, 60)}, {-1, odd}});
+  frmPlayerDB f(h.state, file);
+  EXPECT_EQ(f.LineText(0).find("used"), std::string::npos) << f.LineText(0);
+  EXPECT_TRUE(f.LineText(1).ends_with("  used")) << f.LineText(1);
+  EXPECT_NE(f.LineText(1).find("Odd                     ?"), std::string::npos) << f.LineText(1);
+  f.Select(1);
+  EXPECT_NE(f.FieldsText().find("Hand na"), std::string::npos) << f.FieldsText();
+  const Bytes page = ReadFileBytes(f.cmdOutput());
+  const std::string html(page.begin(), page.end());
+  EXPECT_NE(html.find("Plain"), std::string::npos);
+  EXPECT_NE(html.find(" NA "), std::string::npos) << "a rating of 255 is shown as NA";
+  f.cmdAdd();
+  EXPECT_EQ(frmPlayerDB(h.state, file).records().size(), 3u);
+  h.ui.push("no");
+  EXPECT_FALSE(f.cmdClear());
+  EXPECT_EQ(fs::file_size(file), 3 * DbRecord::kSize);
+  h.ui.push("yes");
+  EXPECT_TRUE(f.cmdClear());
+  EXPECT_EQ(fs::file_size(file), 0u);
+}
+
 TEST_F(PlayerDatabaseTest, NamesakesTakeSuccessiveRecordsOnce) {
   loadteam(h.state, 0, 0);
   h.state.player(0, 0).Name.set("Twin");
@@ -82,12 +159,9 @@ TEST_F(PlayerDatabaseTest, NamesakesTakeSuccessiveRecordsOnce) {
   h.state.player(0, 0).Name.set("Twin");
   const u8 untouched = h.state.player(0, 0).rating(kSpd);
   SaveTeam(h.state, 1, 0);
-  Bytes all;
-  for (auto [name, level] : {std::pair{"Twin", 61}, {"Other", 62}, {"Twin", 63}}) {
-    Bytes r = EncodeRecord(DbRecord{0, MakePlayer(name, kGoalie, level)});
-    all.insert(all.end(), r.begin(), r.end());
-  }
-  WriteFileAtomic(file, all);
+  WriteDb({{0, MakePlayer("Twin", kGoalie, 61)},
+           {0, MakePlayer("Other", kGoalie, 62)},
+           {0, MakePlayer("Twin", kGoalie, 63)}});
   h.ui.push("yes");
   h.ui.push("no");
   ASSERT_TRUE(UpdateStats(h.state, file));
@@ -97,30 +171,60 @@ TEST_F(PlayerDatabaseTest, NamesakesTakeSuccessiveRecordsOnce) {
   EXPECT_EQ(h.state.player(0, 5).Pos, kGoalie);
   loadteam(h.state, 1, 0);
   EXPECT_EQ(h.state.player(0, 0).rating(kSpd), untouched) << "no record of the name is left";
-  EXPECT_TRUE(h.ui.told("Done", "Update Ratings"));
+}
+
+TEST_F(PlayerDatabaseTest, UpdateReachesProspectsAndFreeAgentsAndStopsWhenAsked) {
+  Player kid = MakePlayer("Kid", kDefence, 50);
+  kid.Salary = 4000000;  // 40,000 hundreds: more than the field holds
+  kid.Age = 19;
+  kid.Contract = 3;
+  WriteDb({{0, kid}, {0, MakePlayer("Free Guy", kCentre, 66)}});
+  loadteam(h.state, 0, 0);
+  h.state.Prospects[0].Name[4].set("Kid");
+  SaveTeam(h.state, 0, 0);
+  RecordFile(h.state.swap(swp::Database), DbRecord::kSize)
+      .putRecord(2, DbRecord{0, MakePlayer("Free Guy", kCentre, 40)});
+  for (const char* a : {"no", "yes", "no", "<cancel>"}) h.ui.push(a);
+  EXPECT_FALSE(UpdateStats(h.state)) << "declined";
+  EXPECT_FALSE(UpdateStats(h.state)) << "no file chosen";
+  h.ui.push("yes");
+  h.ui.push("yes");
+  ASSERT_TRUE(UpdateStats(h.state, file));
+  EXPECT_TRUE(
+      h.ui.told("Warning Kid new salary is greater than the maximum integer size. It has been lowered to 32,767",
+                "Update Ratings"));
+  loadteam(h.state, 0, 0);
+  const ProspectList& l = h.state.Prospects[0];
+  EXPECT_EQ(l.Salary[4], 32767);
+  EXPECT_EQ(l.Pos[4], kDefence);
+  EXPECT_EQ(l.Age[4], 19);
+  EXPECT_EQ(l.Contract[4], 3);
+  DbRecord agent = RecordFile(h.state.swap(swp::Database), DbRecord::kSize).getRecord<DbRecord>(2);
+  EXPECT_EQ(agent.P.rating(kSpd), 66);
 }
 
 TEST_F(PlayerDatabaseTest, AMergeTakesTheValuesAndFreesTheRest) {
-  loadteam(h.state, 0, 0);
-  const std::string name = h.state.player(0, 3).Name.str();
-  Bytes all;
-  for (auto [n, level] : {std::pair{name, 88}, {std::string("Left Over"), 70}}) {
-    Bytes r = EncodeRecord(DbRecord{-1, MakePlayer(n, kCentre, level)});
-    all.insert(all.end(), r.begin(), r.end());
+  for (const char* salaries : {"no", "yes"}) {
+    Harness fresh;
+    fresh.load(StandardLeague(2));
+    loadteam(fresh.state, 0, 0);
+    const Player before = fresh.state.player(0, 3);
+    Player db = MakePlayer(before.Name.str(), kCentre, 88);
+    db.Salary = 900000;
+    WriteDb({{-1, db}, {-1, MakePlayer("Left Over", kCentre, 70)}});
+    const std::size_t count = RecordFile(fresh.state.swap(swp::Database), DbRecord::kSize).count();
+    frmPlayerDB f(fresh.state, file);
+    fresh.ui.push(salaries);
+    f.cmdMerge();
+    loadteam(fresh.state, 0, 0);
+    EXPECT_EQ(fresh.state.player(0, 3).rating(kSco), 88);
+    EXPECT_EQ(fresh.state.player(0, 3).Salary, *salaries == 'y' ? 900000 : before.Salary);
+    EXPECT_NE(f.records()[0].DbFlag, 0);
+    EXPECT_EQ(f.records()[1].DbFlag, 0);
+    RecordFile league(fresh.state.swap(swp::Database), DbRecord::kSize);
+    ASSERT_EQ(league.count(), count + 1);
+    EXPECT_EQ(league.getRecord<DbRecord>(count + 1).P.Name.str(), "Left Over");
   }
-  WriteFileAtomic(file, all);
-  const std::size_t before = RecordFile(h.state.swap(swp::Database), DbRecord::kSize).count();
-  frmPlayerDB f(h.state, file);
-  h.ui.push("no");
-  f.cmdMerge();
-  loadteam(h.state, 0, 0);
-  EXPECT_EQ(h.state.player(0, 3).rating(kSco), 88);
-  EXPECT_EQ(h.state.player(0, 3).Salary, 500000);
-  EXPECT_NE(f.records()[0].DbFlag, 0);
-  RecordFile league(h.state.swap(swp::Database), DbRecord::kSize);
-  ASSERT_EQ(league.count(), before + 1);
-  EXPECT_EQ(league.getRecord<DbRecord>(before + 1).P.Name.str(), "Left Over");
-  EXPECT_TRUE(h.ui.told("Done", "Merge Database"));
 }
 
 }  // namespace

@@ -1,11 +1,11 @@
 // Start-up: the home folder, default.lge, the one-copy lock and the search for
 // a league to open.
+#include "console/startup.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
 
-#include "console/menu.h"
-#include "console/startup.h"
 #include "league/league_files.h"
 #include "support/found_file_set.h"
 #include "support/league_fixture.h"
@@ -20,7 +20,9 @@ using test::StandardLeague;
 // default.lge as the table of defaults gives it, byte by byte.
 Bytes ExpectedDefaultHeader() {
   Bytes b(459, 0);
-  auto fill = [&](std::size_t at, std::size_t n, std::uint8_t v) { std::fill_n(b.begin() + static_cast<long>(at), n, v); };
+  auto fill = [&](std::size_t at, std::size_t n, std::uint8_t v) {
+    std::fill_n(b.begin() + static_cast<long>(at), n, v);
+  };
   fill(296, 20, ' ');  // CommandDir
   fill(336, 15, ' ');  // LgTextA
   fill(351, 20, ' ');  // BoxscoreDir
@@ -38,22 +40,17 @@ Bytes ExpectedDefaultHeader() {
   return b;
 }
 
-TEST(StartUp, PreparesTheHomeFolder) {
+TEST(StartUp, PreparesTheHomeFolderAndKeepsADefaultHeaderItHas) {
   test::TempDir dir;
   fs::path home = dir.path() / "fresh";
   PrepareHomeFolder(home);
   for (const char* d : {"Headers", "Transfer", "Boxscores", "Command"}) EXPECT_TRUE(fs::is_directory(home / d)) << d;
   EXPECT_EQ(ReadFileBytes(home / "default.lge"), ExpectedDefaultHeader());
   for (const char* f : {"default.coa", "default.drs", "inj.dtf"}) EXPECT_TRUE(fs::exists(home / f)) << f;
-}
-
-TEST(StartUp, KeepsAnExistingDefaultHeader) {
-  test::TempDir dir;
-  fs::create_directories(dir.path());
   Bytes mine(459, 7);
-  WriteFileAtomic(dir.path() / "default.lge", mine);
-  PrepareHomeFolder(dir.path());
-  EXPECT_EQ(ReadFileBytes(dir.path() / "default.lge"), mine);
+  WriteFileAtomic(home / "default.lge", mine);
+  PrepareHomeFolder(home);
+  EXPECT_EQ(ReadFileBytes(home / "default.lge"), mine);
 }
 
 TEST(HomeLock, RefusesASecondHolderUntilTheFirstEnds) {
@@ -71,61 +68,39 @@ TEST(HomeLock, RefusesASecondHolderUntilTheFirstEnds) {
 
 enum class Def { Missing, Empty, Live, Deleted };
 
-struct SearchCase {
-  const char* name;
-  Def def;
-  std::vector<std::string> inHome;  // leagues written into the home folder
-  std::vector<std::string> titles;  // what is told, in order
-  std::string opens;                // "live", a home league, or "" for none
-};
-
-void PrintTo(const SearchCase& c, std::ostream* os) { *os << c.name; }
-
-class FindStart : public ::testing::TestWithParam<SearchCase> {};
-
 void WriteDef(const fs::path& home, const std::string& line) {
   std::ofstream(home / "kvl.def", std::ios::binary) << line << "\r\n";
 }
 
-TEST_P(FindStart, TellsAndPicks) {
-  const auto& c = GetParam();
-  Harness h;
-  std::string live = test::WriteLeagueIn(h, StandardLeague(8), false, "live");
-  std::string gone = (test::LeagueDir(h) / "gone").string();
-  for (const auto& n : c.inHome) test::WriteLeague(StandardLeague(8), (h.home / n).string());
-  if (c.def == Def::Empty) WriteDef(h.home, "");
-  if (c.def == Def::Live) WriteDef(h.home, live);
-  if (c.def == Def::Deleted) WriteDef(h.home, gone);
-
-  std::string found = FindStartLeague(h.state);
-
-  auto tells = h.ui.callsOf("tell");
-  ASSERT_EQ(tells.size(), c.titles.size());
-  for (std::size_t i = 0; i < tells.size(); ++i) {
-    EXPECT_EQ(tells[i].title, c.titles[i]);
-    std::string text;
-    if (c.titles[i] == "Load Last League")
-      text = "The last league files you loaded, " + gone + "\nare not accessible.\n\nKVL will search for other league files.";
-    else if (c.titles[i] == "Load Default League")
-      text = "KVL was unable to find default league files.\nKVL will search for league files.";
-    else
-      text = "Searching " + h.home.string() +
-             " did not reveal any league files.\nYou must load new league files using the File|Load menu.";
-    EXPECT_EQ(tells[i].text, text);
+TEST(StartUp, FindsTheLastLeagueOrSearchesTheHomeFolder) {
+  struct Case {
+    const char* name;
+    Def def;
+    std::vector<std::string> inHome;  // leagues written into the home folder
+    std::vector<std::string> titles;  // what is told, in order
+    std::string opens;                // "live", a home league, or "" for none
+  } cases[] = {
+      {"last league", Def::Live, {"other"}, {}, "live"},
+      {"no kvl.def: the first home league", Def::Missing, {"zulu", "alpha"}, {"Load Default League"}, "alpha"},
+      {"empty kvl.def", Def::Empty, {"alpha"}, {"Load Default League"}, "alpha"},
+      {"last league deleted", Def::Deleted, {"beta"}, {"Load Last League"}, "beta"},
+      {"nothing anywhere", Def::Deleted, {}, {"Load Last League", "Load Local League Files"}, ""},
+      {"no kvl.def, no league", Def::Missing, {}, {"Load Default League", "Load Local League Files"}, ""},
+  };
+  for (const auto& c : cases) {
+    Harness h;
+    std::string live = test::WriteLeagueIn(h, StandardLeague(8), false, "live");
+    std::string gone = (test::LeagueDir(h) / "gone").string();
+    for (const auto& n : c.inHome) test::WriteLeague(StandardLeague(8), (h.home / n).string());
+    if (c.def != Def::Missing) WriteDef(h.home, c.def == Def::Empty ? "" : c.def == Def::Live ? live : gone);
+    std::string found = FindStartLeague(h.state);
+    std::vector<std::string> titles;
+    for (const auto& t : h.ui.callsOf("tell")) titles.push_back(t.title);
+    EXPECT_EQ(titles, c.titles) << c.name;
+    EXPECT_TRUE(c.def != Def::Deleted || h.ui.callsOf("tell")[0].text.find(gone) != std::string::npos) << c.name;
+    EXPECT_EQ(found, c.opens == "live" ? live : c.opens.empty() ? "" : (h.home / c.opens).string()) << c.name;
   }
-  std::string expected = c.opens == "live" ? live : c.opens.empty() ? "" : (h.home / c.opens).string();
-  EXPECT_EQ(found, expected);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, FindStart,
-    ::testing::Values(SearchCase{"LastLeague", Def::Live, {"other"}, {}, "live"},
-                      SearchCase{"NoDefFindsAHomeLeague", Def::Missing, {"zulu", "alpha"}, {"Load Default League"}, "alpha"},
-                      SearchCase{"EmptyDef", Def::Empty, {"alpha"}, {"Load Default League"}, "alpha"},
-                      SearchCase{"DeletedLeague", Def::Deleted, {"beta"}, {"Load Last League"}, "beta"},
-                      SearchCase{"NothingAnywhere", Def::Deleted, {}, {"Load Last League", "Load Local League Files"}, ""},
-                      SearchCase{"NoDefNoLeague", Def::Missing, {}, {"Load Default League", "Load Local League Files"}, ""}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST(StartUp, FindsALeagueWhoseExtensionIsUpperCase) {
   Harness h;
@@ -134,35 +109,22 @@ TEST(StartUp, FindsALeagueWhoseExtensionIsUpperCase) {
   EXPECT_EQ(FindStartLeague(h.state), (h.home / "Big").string());
 }
 
-TEST(StartUp, WithNoLeagueEveryLeagueCommandIsDisabled) {
+TEST(StartUp, OpensTheLastLeagueTheOneGivenOrNone) {
+  for (bool given : {false, true}) {
+    Harness h;
+    std::string live = test::WriteLeagueIn(h, StandardLeague(8), false, "Metro");
+    if (given)
+      StartUp(h.state, live + ".LGE");
+    else
+      WriteDef(h.home, live), StartUp(h.state, std::nullopt);
+    EXPECT_EQ(h.state.LeaguePath, live);
+    EXPECT_EQ(h.state.LeagueShort, "Metro");
+    EXPECT_TRUE(h.ui.calls().empty());
+  }
   Harness h;
   WriteDef(h.home, (h.dir.path() / "deleted").string());
   StartUp(h.state, std::nullopt);
-  EXPECT_FALSE(h.state.hasLeague());
-  for (const auto& e : ComputeMenu(h.state.league, {h.state.hasLeague(), h.state.Dirty})) {
-    bool fileOnly = e.menu == "&File" || e.menu == "&Tools" || e.menu == "I&nfo";
-    bool leagueFileCommand = e.command == "SaveAs" || e.command == "SaveLeague" || e.command == "UpdateStats" ||
-                             e.command == "ImportLeague";
-    EXPECT_EQ(e.enabled, fileOnly && !leagueFileCommand) << e.command;
-  }
-}
-
-TEST(StartUp, OpensTheLastLeague) {
-  Harness h;
-  std::string live = test::WriteLeagueIn(h, StandardLeague(8), false, "Metro");
-  WriteDef(h.home, live);
-  StartUp(h.state, std::nullopt);
-  EXPECT_TRUE(h.state.hasLeague());
-  EXPECT_EQ(h.state.LeaguePath, live);
-  EXPECT_EQ(h.state.LeagueShort, "Metro");
-}
-
-TEST(StartUp, TheLeagueGivenMayCarryItsExtension) {
-  Harness h;
-  std::string live = test::WriteLeagueIn(h, StandardLeague(8), false, "Metro");
-  StartUp(h.state, live + ".LGE");
-  EXPECT_EQ(h.state.LeaguePath, live);
-  EXPECT_TRUE(h.ui.calls().empty());
+  EXPECT_FALSE(h.state.hasLeague()) << "nothing found: no league is open";
 }
 
 TEST(StartUp, ADamagedLeagueIsAnUnexpectedError) {
@@ -181,9 +143,7 @@ TEST(StartUp, AMissingFileIsToldOnceAndEndsTheProgram) {
   fs::remove(live + ".coa");
   WriteDef(h.home, live);
   EXPECT_THROW(StartUp(h.state, std::nullopt), FatalStop);
-  auto tells = h.ui.callsOf("tell");
-  ASSERT_EQ(tells.size(), 1u);
-  EXPECT_EQ(tells[0].title, "File not found");
+  ASSERT_EQ(h.ui.callsOf("tell").size(), 1u);
   EXPECT_FALSE(fs::exists(h.home / "kvl.def"));
 }
 

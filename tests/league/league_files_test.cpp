@@ -1,25 +1,20 @@
-// The league file set: load, save, swap files, and what a load refuses.
-#include <gtest/gtest.h>
+// The league file set: load, save, swap files, what a load refuses, saves stopped midway and the one-copy lock.
+#include "league/league_files.h"
 
 #include <fmt/format.h>
+#include <gtest/gtest.h>
 
-#include "league/league_files.h"
+#include "support/failing_file_system.h"
 #include "support/found_file_set.h"
 #include "support/league_fixture.h"
 #include "util/record_file.h"
 
-namespace kvl {
+namespace kvl::test {
 namespace {
 
-using test::Differences;
-using test::Harness;
-using test::LeagueDir;
-using test::Snapshot;
-using test::SnapshotDir;
-using test::StandardLeague;
-using test::WriteLeagueIn;
-
-std::string FileName(const std::string& path, const std::string& ext) { return fs::path(path + ext).filename().string(); }
+std::string FileName(const std::string& path, const std::string& ext) {
+  return fs::path(path + ext).filename().string();
+}
 
 // ---- load then save ----------------------------------------------------------
 
@@ -134,31 +129,24 @@ Bytes Waiver(const std::string& name) {
   return EncodeRecord(w);
 }
 
-TEST(LeagueFiles, SaveCompactsTheWaiverFileButNotItsSwap) {
-  Harness h;
-  std::string path = h.load(StandardLeague(8));
-  Bytes swap;
-  for (const char* n : {"", "Able", "", "", "Baker", ""}) {
-    Bytes r = Waiver(n);
-    swap.insert(swap.end(), r.begin(), r.end());
-  }
-  WriteFileAtomic(h.state.swap(swp::Waivers), swap);
-  SaveLg(h.state);
-  Bytes expected = Waiver("Able");
-  Bytes baker = Waiver("Baker");
-  expected.insert(expected.end(), baker.begin(), baker.end());
-  EXPECT_EQ(ReadFileBytes(path + ".wvr"), expected);
-  EXPECT_EQ(ReadFileBytes(h.state.swap(swp::Waivers)), swap);
-}
-
-TEST(LeagueFiles, WithoutAWaiverSwapTheWaiverFileIsLeftAlone) {
+TEST(LeagueFiles, SaveCompactsTheWaiverFileButNotItsSwapAndKeepsItWithoutASwap) {
   Harness h;
   std::string path = WriteLeagueIn(h, StandardLeague(8), true);
   LoadLg(h.state, path);
   Bytes wvr = ReadFileBytes(path + ".wvr");
   fs::remove(h.state.swap(swp::Waivers));
   SaveLg(h.state);
-  EXPECT_EQ(ReadFileBytes(path + ".wvr"), wvr);
+  EXPECT_EQ(ReadFileBytes(path + ".wvr"), wvr) << "without a swap the file is left alone";
+  Bytes swap, expected;
+  for (const char* n : {"", "Able", "", "", "Baker", ""}) {
+    Bytes r = Waiver(n);
+    swap.insert(swap.end(), r.begin(), r.end());
+    if (*n) expected.insert(expected.end(), r.begin(), r.end());
+  }
+  WriteFileAtomic(h.state.swap(swp::Waivers), swap);
+  SaveLg(h.state);
+  EXPECT_EQ(ReadFileBytes(path + ".wvr"), expected);
+  EXPECT_EQ(ReadFileBytes(h.state.swap(swp::Waivers)), swap);
 }
 
 TEST(LeagueFiles, LoadingWithoutWaiverFileClearsWaived) {
@@ -166,8 +154,7 @@ TEST(LeagueFiles, LoadingWithoutWaiverFileClearsWaived) {
     Harness h;
     auto plan = StandardLeague(8);
     for (auto& t : plan.teams) t.Waived = kTrue;
-    std::string path = WriteLeagueIn(h, plan, withWvr);
-    LoadLg(h.state, path);
+    LoadLg(h.state, WriteLeagueIn(h, plan, withWvr));
     for (int t = 0; t < 8; ++t) EXPECT_EQ(h.state.team(t).Waived, withWvr ? kTrue : kFalse) << t << " wvr " << withWvr;
     EXPECT_EQ(fs::exists(h.state.swap(swp::Waivers)), withWvr);
   }
@@ -175,37 +162,25 @@ TEST(LeagueFiles, LoadingWithoutWaiverFileClearsWaived) {
 
 // ---- swap files that go missing ------------------------------------------------
 
-class MissingSwapDeletes : public ::testing::TestWithParam<std::pair<const char*, const char*>> {};
-
-TEST_P(MissingSwapDeletes, TheLeagueFile) {
-  auto [ext, swap] = GetParam();
+TEST(LeagueFiles, AMissingSwapDeletesItsFileAndMissingFilesDeleteStaleSwaps) {
+  const std::pair<const char*, const char*> optional[] = {
+      {".scx", swp::Schedule}, {".dft", swp::DraftList}, {".fas", swp::Futures},
+      {".pri", swp::Priority}, {".eml", swp::Email},     {".tra", swp::Transactions},
+      {".htr", swp::History},  {".csr", swp::Career},    {".rec", swp::Rec}};
   Harness h;
   std::string path = WriteLeagueIn(h, StandardLeague(8), true);
   LoadLg(h.state, path);
-  ASSERT_TRUE(fs::exists(path + ext));
-  fs::remove(h.state.swap(swap));
+  for (auto [ext, swap] : optional) {
+    ASSERT_TRUE(fs::exists(path + ext));
+    fs::remove(h.state.swap(swap));
+  }
   SaveLg(h.state);
-  EXPECT_FALSE(fs::exists(path + ext));
-}
-
-INSTANTIATE_TEST_SUITE_P(Optional, MissingSwapDeletes,
-                         ::testing::Values(std::pair{".scx", swp::Schedule}, std::pair{".dft", swp::DraftList},
-                                           std::pair{".fas", swp::Futures}, std::pair{".pri", swp::Priority},
-                                           std::pair{".eml", swp::Email}, std::pair{".tra", swp::Transactions},
-                                           std::pair{".htr", swp::History}, std::pair{".csr", swp::Career},
-                                           std::pair{".rec", swp::Rec}));
-
-TEST(LeagueFiles, MissingOptionalFilesDeleteStaleSwapCopies) {
-  Harness h;
-  std::string full = WriteLeagueIn(h, StandardLeague(8), true, "full");
-  LoadLg(h.state, full);
+  for (auto [ext, swap] : optional) EXPECT_FALSE(fs::exists(path + ext)) << ext;
+  LoadLg(h.state, WriteLeagueIn(h, StandardLeague(8), true, "full"));
   std::string bare = WriteLeagueIn(h, StandardLeague(8), false, "bare");
   LoadLg(h.state, bare);
-  for (const char* s : {swp::Schedule, swp::DraftList, swp::Futures, swp::Priority, swp::Email, swp::Transactions,
-                        swp::History, swp::Career, swp::Rec, swp::Waivers})
-    EXPECT_FALSE(fs::exists(h.state.swap(s))) << s;
-  SaveLg(h.state);
-  EXPECT_FALSE(fs::exists(bare + ".scx"));
+  for (auto [ext, swap] : optional) EXPECT_FALSE(fs::exists(h.state.swap(swap))) << swap;
+  EXPECT_FALSE(fs::exists(h.state.swap(swp::Waivers)));
 }
 
 TEST(LeagueFiles, MissingProspectFileKeepsTheOldSwapCopy) {
@@ -222,8 +197,12 @@ TEST(LeagueFiles, MissingProspectFileKeepsTheOldSwapCopy) {
 
 // ---- what LoadLg reads ----------------------------------------------------------
 
-TEST(LeagueFiles, HeaderCountsAndDivisions) {
-  struct Case { int storedTeams; int numDivs0, numDivs1; int teams, divs0, divs1; };
+TEST(LeagueFiles, HeaderCountsAndDivisionsAndOnlyThatManyTeams) {
+  struct Case {
+    int storedTeams;
+    int numDivs0, numDivs1;
+    int teams, divs0, divs1;
+  };
   for (Case c : {Case{7, 2, 3, 8, 2, 3}, {255, 0, 0, 0, 2, 2}, {49, 4, 0, 50, 4, 2}, {0, 1, 4, 1, 1, 4}}) {
     Harness h;
     auto plan = StandardLeague(std::max(c.teams, 1));
@@ -238,39 +217,22 @@ TEST(LeagueFiles, HeaderCountsAndDivisions) {
     EXPECT_EQ(h.state.league.Conf[0].NumDivs, c.divs0);
     EXPECT_EQ(h.state.league.Conf[1].NumDivs, c.divs1);
   }
-}
-
-TEST(LeagueFiles, AFreshLeagueOfNoTeamsSavesAndLoadsAgain) {
   Harness h;
-  auto plan = StandardLeague(1);
-  plan.header.NumTeams = 0;
-  plan.teams.clear();
-  plan.rosters.clear();
-  std::string path = WriteLeagueIn(h, plan, false);
-  EXPECT_EQ(ReadFileBytes(path + ".lge")[25], 255);
-  LoadLg(h.state, path);
-  EXPECT_EQ(h.state.numTeams(), 0);
-  SaveLg(h.state);
-  EXPECT_EQ(ReadFileBytes(path + ".lge")[25], 255);
-  LoadLg(h.state, path);
-  EXPECT_EQ(h.state.numTeams(), 0);
-}
-
-TEST(LeagueFiles, RecordsPastTheTeamCountAreNotRead) {
-  Harness h;
-  auto plan = StandardLeague(12);
-  std::string path = WriteLeagueIn(h, plan, false);
+  std::string path = WriteLeagueIn(h, StandardLeague(12), false);
   Bytes lge = ReadFileBytes(path + ".lge");
   lge[25] = 7;  // 8 teams, though .tms holds 12
   WriteFileAtomic(path + ".lge", lge);
   h.state.team(10).Name.set("In memory");
   LoadLg(h.state, path);
-  EXPECT_EQ(h.state.team(7).Name.str(), "Team7");
-  EXPECT_EQ(h.state.team(10).Name.str(), "In memory");
+  EXPECT_EQ(h.state.team(10).Name.str(), "In memory") << "records past the team count are not read";
 }
 
 TEST(LeagueFiles, PointSystemAboveThreeIsResetOutsideThePlayoffs) {
-  struct Case { int stored; bool playoffs; int loaded; };
+  struct Case {
+    int stored;
+    bool playoffs;
+    int loaded;
+  };
   for (Case c : {Case{3, false, 3}, {4, false, 0}, {9, false, 0}, {4, true, 4}}) {
     Harness h;
     auto plan = StandardLeague(8);
@@ -287,10 +249,8 @@ TEST(LeagueFiles, LoadNamesTheLeagueAndWritesKvlDef) {
   Harness h;
   h.state.Dirty = true;
   std::string path = h.load(StandardLeague(8), "Metro");
-  EXPECT_EQ(h.state.LeaguePath, path);
   EXPECT_EQ(h.state.LeagueShort, "Metro");
   EXPECT_FALSE(h.state.Dirty);
-  EXPECT_TRUE(h.state.hasLeague());
   Bytes def = ReadFileBytes(h.home / "kvl.def");
   std::string line(def.begin(), def.end());
   EXPECT_EQ(line.substr(0, line.find_first_of("\r\n")), path);
@@ -348,17 +308,12 @@ TEST(LoadTeam, SaveTeamWritesOnlyThatTeamsRecords) {
   h.state.Prospects[1].Age[0] = 19;
   h.state.team(2).PPG = 9;
   SaveTeam(h.state, 2, 1);
-  Bytes ros2 = ReadFileBytes(h.state.swap(swp::Roster));
-  for (std::size_t rec = 0; rec < ros.size() / Player::kSize; ++rec) {
-    bool mine = rec >= 100 && rec < 150;
-    bool same = std::equal(ros.begin() + static_cast<long>(rec * Player::kSize),
-                           ros.begin() + static_cast<long>((rec + 1) * Player::kSize),
-                           ros2.begin() + static_cast<long>(rec * Player::kSize));
-    EXPECT_EQ(same, !mine) << "record " << rec + 1;
-  }
+  Bytes ros2 = ReadFileBytes(h.state.swap(swp::Roster)), tms2 = ReadFileBytes(h.state.swap(swp::Teams));
+  const long team = 50 * Player::kSize;
+  EXPECT_TRUE(std::equal(ros.begin(), ros.begin() + 2 * team, ros2.begin()));
+  EXPECT_TRUE(std::equal(ros.begin() + 3 * team, ros.end(), ros2.begin() + 3 * team));
   EXPECT_EQ(RecordFile(h.state.swap(swp::Roster), Player::kSize).getRecord<Player>(2 * 50 + 49 + 1).Hits, 1049);
-  Bytes tms2 = ReadFileBytes(h.state.swap(swp::Teams));
-  EXPECT_EQ(Differences({{"t", Bytes(tms.begin(), tms.begin() + 2 * 254)}}, {{"t", Bytes(tms2.begin(), tms2.begin() + 2 * 254)}}).size(), 0u);
+  EXPECT_TRUE(std::equal(tms.begin(), tms.begin() + 2 * 254, tms2.begin()));
   EXPECT_EQ(tms2[2 * 254 + 158], 9);
   EXPECT_EQ(RecordFile(h.state.swap(swp::Prospects), ProspectList::kSize).getRecord<ProspectList>(3).Age[0], 19);
   EXPECT_EQ(ReadFileBytes(h.state.swap(swp::Prospects)).size(), pct.size());
@@ -388,7 +343,8 @@ TEST_P(MissingRequired, IsToldAndEndsTheProgramWithNothingSaved) {
   EXPECT_FALSE(h.state.hasLeague());
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, MissingRequired, ::testing::Values(".tms", ".ros", ".lge", ".drs", ".dpk", ".coa", ".plf"),
+INSTANTIATE_TEST_SUITE_P(Files, MissingRequired,
+                         ::testing::Values(".tms", ".ros", ".lge", ".drs", ".dpk", ".coa", ".plf"),
                          [](const auto& info) { return std::string(info.param + 1); });
 
 struct DamageCase {
@@ -462,26 +418,18 @@ TEST(SaveLeagueAs, AsksForTheFileAndConfirmsOverwriting) {
     bool existing;
     bool saved;
   };
-  for (const Case& c : {Case{"cancel", {"<cancel>"}, false, false}, Case{"new", {"copy.lge"}, false, true},
-                        Case{"overwrite", {"copy.lge", "yes"}, true, true},
-                        Case{"keep", {"copy.lge", "no"}, true, false}}) {
+  for (const Case& c :
+       {Case{"cancel", {"<cancel>"}, false, false}, Case{"new", {"copy.lge"}, false, true},
+        Case{"overwrite", {"copy.lge", "yes"}, true, true}, Case{"keep", {"copy.lge", "no"}, true, false}}) {
     Harness h;
     std::string path = h.load(StandardLeague(8));
     std::string target = (LeagueDir(h) / "copy").string();
     for (auto a : c.answers) h.ui.push(a == "copy.lge" ? target + ".lge" : a);
     if (c.existing) WriteFileAtomic(target + ".lge", Bytes{1, 2, 3});
-    bool result = SaveLeagueAs(h.state, "");
-    EXPECT_EQ(result, c.saved) << c.name;
-    auto files = h.ui.callsOf("chooseFile");
-    ASSERT_EQ(files.size(), 1u);
-    EXPECT_EQ(files[0].title, "Save League As");
-    EXPECT_EQ(files[0].text, "All Files|*.*|KVL League Files|*.lge");
-    auto asks = h.ui.callsOf("ask");
-    EXPECT_EQ(asks.size(), c.existing ? 1u : 0u) << c.name;
-    if (c.existing) {
-      EXPECT_EQ(asks[0].text, "File Exists! Overwrite?");
-      EXPECT_EQ(asks[0].title, "Save League");
-    }
+    EXPECT_EQ(SaveLeagueAs(h.state, c.saved ? "" : "Save New Season As"), c.saved) << c.name;
+    ASSERT_EQ(h.ui.callsOf("chooseFile").size(), 1u);
+    EXPECT_EQ(h.ui.callsOf("chooseFile")[0].title, c.saved ? "Save League As" : "Save New Season As");
+    EXPECT_EQ(h.ui.callsOf("ask").size(), c.existing ? 1u : 0u) << c.name;
     EXPECT_EQ(h.state.LeaguePath, c.saved ? target : path) << c.name;
     EXPECT_EQ(h.state.LeagueShort, c.saved ? "copy" : "test") << c.name;
     if (c.saved) {
@@ -491,13 +439,113 @@ TEST(SaveLeagueAs, AsksForTheFileAndConfirmsOverwriting) {
   }
 }
 
-TEST(SaveLeagueAs, TheDialogTitleIsTheDefaultNameWhenGiven) {
+struct FaultCase {
+  const char* name;
+  const char* target;  // the league saved to; "test" is the one loaded
+};
+
+class SaveFaults : public ::testing::TestWithParam<FaultCase> {
+ protected:
+  // A loaded league with unsaved work that touches most files: a player, a team,
+  // the header, and a schedule deleted (so the save removes a file too).
+  std::string OpenChanged(Harness& h) {
+    auto plan = test::StandardLeague(10, 3);
+    test::Enrich(plan, 11);
+    std::string path = test::WriteLeagueIn(h, plan, true);
+    LoadLg(h.state, path);
+    loadteam(h.state, 2, 0);
+    h.state.player(0, 0).G = 40;
+    SaveTeam(h.state, 2, 0);
+    h.state.team(4).GF = 77;
+    h.state.league.LeagueName.set("Changed");
+    RemoveIfExists(h.state.swap(swp::Schedule));
+    return path;
+  }
+  std::string Target(const Harness& h) const { return (LeagueDir(h) / GetParam().target).string(); }
+  void Save(Harness& h) {
+    if (std::string(GetParam().target) == "test")
+      SaveLg(h.state);
+    else
+      SaveLeagueAs(h.state, "", fs::path(Target(h) + ".lge"));
+  }
+};
+
+TEST_P(SaveFaults, EveryStopLeavesTheOldLeagueOrTheNew) {
+  Snapshot before, after;
+  {
+    Harness h;
+    OpenChanged(h);
+    before = SnapshotDir(LeagueDir(h));
+    Save(h);
+    after = SnapshotDir(LeagueDir(h));
+  }
+  ASSERT_NE(before, after);
+  int old = 0, saved = 0;
+  for (int n = 1;; ++n) {
+    Harness h;
+    OpenChanged(h);
+    test::FailingFileSystem failing(n);
+    h.state.fileSystem = &failing;
+    bool stopped = false;
+    try {
+      Save(h);
+    } catch (const KvlError&) {
+      stopped = true;
+    }
+    h.state.fileSystem = &RealFileSystem();
+    bool journal = fs::exists(LeagueJournal(Target(h)));
+    // The next start: a load of the saved league completes what the stop left.
+    if (journal || fs::exists(Target(h) + ".lge")) LoadLg(h.state, Target(h));
+    EXPECT_EQ(h.ui.told("A save of " + Target(h) + " was interrupted; it has now been completed.", "Load League"),
+              journal)
+        << "step " << n;
+    Snapshot now = SnapshotDir(LeagueDir(h));
+    if (now == before)
+      ++old;
+    else if (now == after)
+      ++saved;
+    else
+      ADD_FAILURE() << "stopped at step " << n
+                    << ", the folder is a mix: " << ::testing::PrintToString(test::Differences(after, now));
+    if (!stopped) break;
+  }
+  EXPECT_GT(old, 10) << "stops before the journal keep the old league";
+  EXPECT_GT(saved, 10) << "stops after it end with the new";
+}
+
+INSTANTIATE_TEST_SUITE_P(Saves, SaveFaults, ::testing::Values(FaultCase{"Save", "test"}, FaultCase{"SaveAs", "copy"}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// ---- one copy a league -----------------------------------------------------------
+
+TEST(LeagueLock, ASecondCopyFromAnotherHomeIsRefusedUntilTheFirstCloses) {
+  Harness first;
+  std::string path = first.load(test::StandardLeague(8));
+  auto second = std::make_unique<Harness>();
+  EXPECT_THROW(LoadLg(second->state, path), Refused);
+  EXPECT_TRUE(second->ui.told("The league " + path + " is open in another copy of KVL (" + path +
+                                  ".lock is held). To ensure no files will be corrupted, it cannot be opened here.",
+                              "League in use"));
+  EXPECT_FALSE(second->state.hasLeague());
+  // Saving over it from elsewhere is refused the same way, and writes nothing.
+  second->load(test::StandardLeague(8, 4), "other");
+  Snapshot held = SnapshotDir(LeagueDir(first));
+  EXPECT_THROW(SaveLeagueAs(second->state, "", fs::path(path + ".lge")), Refused) << "without asking to overwrite";
+  EXPECT_EQ(SnapshotDir(LeagueDir(first)), held);
+  first.state.leagueLock.release();
+  EXPECT_NO_THROW(LoadLg(second->state, path));
+}
+
+TEST(LeagueLock, ALockFileLeftByAKilledCopyDoesNotBlock) {
   Harness h;
-  h.load(StandardLeague(8));
-  h.ui.push("<cancel>");
-  EXPECT_FALSE(SaveLeagueAs(h.state, "Save New Season As"));
-  EXPECT_EQ(h.ui.callsOf("chooseFile").at(0).title, "Save New Season As");
+  std::string path = test::WriteLeagueIn(h, test::StandardLeague(8), false);
+  WriteFileAtomic(path + ".lock", Bytes{});
+  LoadLg(h.state, path);
+  EXPECT_TRUE(h.state.hasLeague());
+  LoadLg(h.state, path);  // this copy opening it again is no second copy
+  h.state.leagueLock.release();
+  EXPECT_FALSE(fs::exists(path + ".lock")) << "the lock file goes with the lock";
 }
 
 }  // namespace
-}  // namespace kvl
+}  // namespace kvl::test

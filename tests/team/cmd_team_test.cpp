@@ -1,9 +1,7 @@
 // The team commands of the kvl program, run end to end on a written league.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
-
+#include "support/golden.h"
 #include "support/team_cli.h"
 #include "support/team_files.h"
 
@@ -59,10 +57,8 @@ TEST(TeamCommandsTest, CoachesAreHiredFiredAndLogged) {
   EXPECT_TRUE(Has(card.output, "$150,000")) << card.output;
   EXPECT_EQ(cli.run("--yes fire-coach 2").status, 0);
   EXPECT_EQ(cli.run("--yes fire-coach 2").status, 1);
-  std::ifstream tra(cli.leaguePath() + ".tra");
-  std::stringstream log;
-  log << tra.rdbuf();
-  EXPECT_EQ(log.str(), "Team2 hire Head Coach Coach 1<BR><BR>\r\nTeam2 fire Head Coach Coach 1<BR><BR>\r\n");
+  EXPECT_EQ(ReadAll(cli.leaguePath() + ".tra"),
+            "Team2 hire Head Coach Coach 1<BR><BR>\r\nTeam2 fire Head Coach Coach 1<BR><BR>\r\n");
 }
 
 }  // namespace

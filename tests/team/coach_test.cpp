@@ -40,19 +40,16 @@ TEST_F(CoachTest, ListEditsClampAndAreKeptOnlyOnYes) {
   list.SetRating(1, kCoachEX, 77.4);
   list.SetSalary(1, 20000000);
   list.SetSalary(4, 1);
-  EXPECT_EQ(list.coach(1).OF, 99);
-  EXPECT_EQ(list.coach(1).DF, 50);
-  EXPECT_EQ(list.coach(1).EX, 77);
-  EXPECT_EQ(list.coach(1).Salary, 20000000);
+  const Coach& c = list.coach(1);
+  EXPECT_EQ((std::array{int(c.OF), int(c.DF), int(c.EX), c.Salary}), (std::array{99, 50, 77, 20000000}));
   EXPECT_EQ(h.state.team(0).Coach.Salary, 20000000) << "the employer's copy follows";
   EXPECT_EQ(list.coach(4).Salary, 100000);
-  EXPECT_EQ(list.SalaryCaption(1), "Salary with Team0:");
-  EXPECT_EQ(list.SalaryCaption(4), "Coach 3 asking:");
+  EXPECT_EQ(list.SalaryCaption(1) + "|" + list.SalaryCaption(4), "Salary with Team0:|Coach 3 asking:");
+  EXPECT_EQ(list.rows(), (std::vector<std::size_t>{1, 2, 3, 4}));
+  EXPECT_TRUE(list.RowText(4).ends_with("Coach 3 asking: $50,000")) << "half the stored salary is shown";
   EXPECT_EQ(onFile(1).OF, 50) << "nothing written before leaving";
   h.ui.push("yes");
   list.cmdExit();
-  EXPECT_EQ(h.ui.callsOf("ask").back().text, "Save changes?");
-  EXPECT_EQ(h.ui.callsOf("ask").back().title, "Modified Coach");
   EXPECT_EQ(onFile(1).OF, 99);
   EXPECT_EQ(onFile(4).Salary, 100000);
 }
@@ -63,36 +60,23 @@ TEST_F(CoachTest, CreatePromptsUntilTheValuesFitAndStoresTheSalaryDoubled) {
   h.state.Dirty = false;
   ASSERT_TRUE(list.cmdCreate());
   Coach c = onFile(5);
-  EXPECT_EQ(c.Name.raw(), "New Guy               ");
+  EXPECT_EQ(c.Name.str(), "New Guy");
   EXPECT_EQ(c.OF, 100) << "the prompt admits 100";
-  EXPECT_EQ(c.DF, 60);
-  EXPECT_EQ(c.Salary, 100000);
+  EXPECT_EQ((std::array{int(c.DF), int(c.EX), int(c.LD), c.Salary}), (std::array{60, 70, 80, 100000}));
   EXPECT_EQ(ShownSalary(c.Salary), 50000);
   EXPECT_EQ(c.Team, Coach::kNoTeam);
-  EXPECT_TRUE(h.ui.told("New Guy added to coach file", "Coach Added"));
   EXPECT_TRUE(h.state.Dirty);
-  std::vector<std::string> titles;
-  for (const auto& p : h.ui.callsOf("prompt")) titles.push_back(p.title);
-  EXPECT_EQ(titles, (std::vector<std::string>{"New Coach", "Offensive Rating", "Offensive Rating", "Defensive Rating",
-                                              "Defensive Rating", "Experience Rating", "Leadership Rating", "Salary",
-                                              "Salary"}));
-  EXPECT_EQ(h.ui.callsOf("prompt")[1].text, "Offensive Rating (50-100)");
-  EXPECT_EQ(h.ui.callsOf("prompt")[7].text, "Salary (50000-10000000)");
-}
-
-TEST_F(CoachTest, CancellingAnyCreatePromptDropsTheCoach) {
+  EXPECT_EQ(h.ui.callsOf("prompt").size(), 9u) << "each value out of range is asked again";
   for (const char* a : {"Quitter", "70", "<cancel>"}) h.ui.push(a);
-  CoachList list(h.state);
   EXPECT_FALSE(list.cmdCreate());
-  EXPECT_EQ(ReadCoaches(h.state).size(), 5u);
+  EXPECT_EQ(ReadCoaches(h.state).size(), 6u) << "a cancelled prompt drops the coach";
 }
 
 TEST_F(CoachTest, DeleteAsksThenBlanksTheRecord) {
   CoachList list(h.state);
   h.ui.push("no");
   EXPECT_FALSE(list.cmdDelete(4));
-  EXPECT_EQ(h.ui.callsOf("ask").back().text, "Delete Coach 3 from coach file?");
-  EXPECT_EQ(h.ui.callsOf("ask").back().title, "Delete Coach");
+  EXPECT_FALSE(onFile(4).Name.empty());
   h.ui.push("yes");
   EXPECT_TRUE(list.cmdDelete(4));
   EXPECT_TRUE(onFile(4).Name.empty());
@@ -103,18 +87,19 @@ TEST_F(CoachTest, HiringIsRefusedFromThePlainListAndForAnEmployedCoach) {
   EXPECT_THROW(plain.cmdSelect(4), Refused);
   EXPECT_TRUE(h.ui.told("You may only hire and fire coaches from Coach | Rosters | Coach Info", "List Coaches"));
   CoachList hire(h.state, 3);
-  EXPECT_EQ(hire.caption(), "Hire Coach");
   EXPECT_THROW(hire.cmdSelect(2), Refused);
-  EXPECT_TRUE(h.ui.told("Coach 1 is already coaching for Team1!\nThey have to fire him first!",
-                        "Coach Already Employed"));
+  EXPECT_TRUE(
+      h.ui.told("Coach 1 is already coaching for Team1!\nThey have to fire him first!", "Coach Already Employed"));
   EXPECT_EQ(h.state.team(3).CoachRec, 0);
 }
 
 TEST_F(CoachTest, HiringFiresThePresentCoachAndLogsBoth) {
   CoachList hire(h.state, 0);
+  h.ui.push("no");
+  EXPECT_FALSE(hire.cmdSelect(4));
+  EXPECT_EQ(h.state.team(0).CoachRec, 1);
   h.ui.push("yes");
   ASSERT_TRUE(hire.cmdSelect(4));
-  EXPECT_EQ(h.ui.callsOf("ask").back().text, "Hire Coach 3 to Team0?");
   const Team& t = h.state.team(0);
   EXPECT_EQ(t.CoachRec, 4);
   EXPECT_EQ(t.Coach.Name.str(), "Coach 3");

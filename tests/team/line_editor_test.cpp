@@ -1,11 +1,22 @@
-// The line editor: silent refusals of wrong placements, assignments, averages,
-// the automatic lines' guard, and leaving only with a complete table.
+// The line editor and managers' lines files: placements, averages, leaving, the binary file, the text import and Auto
+// Load Lines.
+#include "team/line_editor.h"
+
 #include <gtest/gtest.h>
 
+#include <fstream>
+
+#include "admin/options_lines_directory.h"
+#include "league/league_files.h"
+#include "support/golden.h"
 #include "support/league_fixture.h"
 #include "support/team_rosters.h"
-#include "team/line_editor.h"
+#include "team/auto_load_lines.h"
 #include "team/line_table.h"
+#include "team/lines_file.h"
+#include "team/lines_import.h"
+#include "team/lines_text_import.h"
+#include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
@@ -73,10 +84,9 @@ TEST_F(LineEditorTest, AssignmentsListEveryRowAPlayerStandsOn) {
   e.LineBuf.at(6, 1) = 4;
   e.LineBuf.at(6, 4) = 5;  // unused slot
   e.ReadLineAssgts();
-  EXPECT_EQ(e.assignment(0), "E1C P1C K3D");
-  EXPECT_EQ(e.assignment(1), "No Assignments") << "the goalie row takes no part";
-  EXPECT_EQ(e.assignment(4), "P3W");
-  EXPECT_EQ(e.assignment(5), "No Assignments");
+  // The goalie row takes no part, nor does an unused slot.
+  EXPECT_EQ(e.assignment(0) + "|" + e.assignment(1) + "|" + e.assignment(4) + "|" + e.assignment(5),
+            "E1C P1C K3D|No Assignments|P3W|No Assignments");
 }
 
 TEST_F(LineEditorTest, LineAveragesDivideByTheRowsSlotsAndRoundHalfUp) {
@@ -93,11 +103,13 @@ TEST_F(LineEditorTest, LineAveragesDivideByTheRowsSlotsAndRoundHalfUp) {
   EXPECT_EQ(team[kSpd], static_cast<int>(sum / 18.001 + 0.5));
 }
 
-TEST_F(LineEditorTest, AutoNeedsExactlyTwentyDressed) {
+TEST_F(LineEditorTest, AutoNeedsExactlyTwentyDressedAndAnIncompleteTableCannotBeKept) {
   for (int extra : {-1, 1}) {
     std::vector<Player> r = Squad({4, 4, 4, 6, 2}, 70);
-    if (extra < 0) r[0].Status = 100;
-    else r.push_back(Rated(kCentre, 50));
+    if (extra < 0)
+      r[0].Status = 100;
+    else
+      r.push_back(Rated(kCentre, 50));
     Harness fresh;
     LeaguePlan plan = StandardLeague(2);
     plan.rosters[0] = r;
@@ -112,11 +124,6 @@ TEST_F(LineEditorTest, AutoNeedsExactlyTwentyDressed) {
   e.cmdAuto();
   EXPECT_TRUE(e.Changed);
   EXPECT_TRUE(LinesComplete(e.LineBuf));
-}
-
-TEST_F(LineEditorTest, AnIncompleteTableCannotBeKept) {
-  LineEditor e(h.state, 0);
-  e.cmdAuto();
   e.LineBuf.at(12, 2) = kNoPlayer;
   h.ui.push("yes");
   EXPECT_FALSE(e.cmdExit());
@@ -125,7 +132,6 @@ TEST_F(LineEditorTest, AnIncompleteTableCannotBeKept) {
   e.Place(22, 5);
   h.ui.push("yes");
   EXPECT_TRUE(e.cmdExit());
-  EXPECT_EQ(h.ui.callsOf("ask").back().text, "Keep Line Changes?");
   EXPECT_EQ(h.state.team(0).Lines.at(12, 2), 5);
   EXPECT_EQ(h.state.team(0).LinesOK, kTrue);
 }
@@ -142,14 +148,222 @@ TEST_F(LineEditorTest, NoDropsTheChangesAndClosingSaysSo) {
   EXPECT_TRUE(h.ui.told("Changes were not saved", "Edit Lines"));
 }
 
-TEST(LineEditorOpenTest, WarnsWhenNobodyIsDressed) {
-  Harness h;
-  LeaguePlan plan = StandardLeague(2);
-  plan.rosters[0] = Squad({4, 4, 4, 6, 2}, 70, 100);
-  h.load(plan);
+TEST_F(LineEditorTest, WarnsWhenNobodyIsDressed) {
+  open(Squad({4, 4, 4, 6, 2}, 70, 100));
   LineEditor e(h.state, 0);
   EXPECT_TRUE(h.ui.told("There are not enough players. Set roster first", "Roster warning"));
-  EXPECT_EQ(e.caption(), "Lines for Team0");
+}
+
+// Team0: C 0-3, LW 4-7, RW 8-11, D 12-17 dressed, D 18 scratched, G 19-20
+// dressed, G 21 scratched, minors 22-23; jersey = slot + 2. Password "secret".
+struct LinesFileTest : ::testing::Test {
+  Harness h;
+  fs::path dir;
+  void SetUp() override {
+    LeaguePlan plan = StandardLeague(4);
+    for (auto& t : plan.teams) t.Password.set("secret");
+    plan.rosters[0][18].Status = 100;
+    plan.rosters[0][20].Status = 200;
+    h.load(plan);
+    dir = h.dir.path() / "managers";
+    fs::create_directories(dir);
+  }
+  // Team0's lines as AutoLines makes them, saved to `file` under `password`.
+  LineTable Save(const fs::path& file, const std::string& password, int team = 0) {
+    LineEditor e(h.state, team);
+    EXPECT_TRUE(e.cmdAuto());
+    h.ui.push(password);
+    EXPECT_TRUE(cmdSaveLines(h.state, e, file));
+    return e.LineBuf;
+  }
+  Player& at(int slot) { return h.state.player(0, slot); }
+};
+
+TEST_F(LinesFileTest, AFileWrittenAndLoadedBackReproducesTheTableByteForByte) {
+  const LineTable made = Save(dir / "team0", "secret");
+  const Bytes first = ReadFileBytes(dir / "team0.lns");
+  ASSERT_EQ(first.size(), LinesFileRecord::kSize) << ".lns is added to a name without it";
+  h.state.team(0).Lines.cells.fill(kNoPlayer);
+  h.state.CurTeam = 0;
+  loadteam(h.state, 0, 0);
+  ASSERT_TRUE(ImportLinesSub(h.state, 0, nullptr, dir / "team0.lns").ok);
+  EXPECT_EQ(h.state.team(0).Lines, made);
+  EXPECT_NE(h.state.team(0).LinesOK, 0);
+  Save(dir / "again.lns", "secret");
+  EXPECT_EQ(ReadFileBytes(dir / "again.lns"), first);
+}
+
+TEST_F(LinesFileTest, OnlyTheTeamsPasswordAndAWholeRecordAreAccepted) {
+  struct Case {
+    const char* what;
+    const char* team;  // nullptr: never set, the field all zero
+    std::string password;
+    int cut;  // bytes to remove (negative: add)
+    bool loaded;
+    const char* told;  // titled "Import Lines" or, for a damaged file, "Invalid File"
+  } cases[] = {
+      {"the team's password", "secret", "secret", 0, true, nullptr},
+      {"typed longer: the file keeps 10 characters", "secret1234", "secret12345678", 0, true, nullptr},
+      {"another case", "secret", "Secret", 0, false, "Password Incorrect"},
+      {"no password", "secret", "", 0, false, "Password Incorrect"},
+      {"a team never given one takes an empty one", nullptr, "", 0, true, nullptr},
+      {"a team never given one refuses any other", nullptr, "secret", 0, false, "Password Incorrect"},
+      {"truncated", "secret", "secret", 1, false, "Errors in File"},
+      {"oversized", "secret", "secret", -1, false, "Errors in File"},
+  };
+  for (const auto& c : cases) {
+    if (c.team)
+      h.state.team(0).Password.set(c.team);
+    else
+      h.state.team(0).Password.clear();
+    Save(dir / "t.lns", c.password);
+    Bytes bytes = ReadFileBytes(dir / "t.lns");
+    bytes.resize(static_cast<std::size_t>(static_cast<int>(bytes.size()) - c.cut));
+    WriteFileAtomic(dir / "t.lns", bytes);
+    h.state.team(0).Lines.cells.fill(kNoPlayer);
+    const Team before = h.state.team(0);
+    h.state.CurTeam = 0;
+    loadteam(h.state, 0, 0);
+    LinesImport r = ImportLinesSub(h.state, 0, nullptr, dir / "t.lns");
+    EXPECT_EQ(r.ok, c.loaded) << c.what;
+    if (c.told) {
+      EXPECT_TRUE(h.ui.told(c.told, c.cut ? "Invalid File" : "Import Lines")) << c.what;
+      EXPECT_EQ(h.state.team(0).Lines, before.Lines) << c.what;
+      EXPECT_NE(r.why.find("t.lns"), std::string::npos) << c.what << ": " << r.why;
+    }
+  }
+}
+
+TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMoves) {
+  struct Case {
+    const char* what;
+    int slot;
+    u8 league, file;  // Status in the league and in the file
+    u8 suspended;
+    u8 after;
+    bool linesTaken;
+    const char* log;  // in the transaction log, or "" for nothing
+    const char* told;
+  } cases[] = {
+      {"a minor dressed is called up", 22, 0, 200, 0, 200, true, "Team0 promote T0 Minor 1 to pro roster<BR><BR> ",
+       nullptr},
+      {"a scratch sent down", 18, 100, 0, 0, 0, true, "Team0 assign T0 D 7 to minors<BR><BR>", nullptr},
+      {"a minor staying down writes nothing", 22, 0, 0, 0, 0, true, "", nullptr},
+      {"an injured player dressed", 18, 103, 200, 0, 103, false, "", "T0 D 7 is being dressed"},
+      {"a suspended player dressed", 18, 100, 200, 2, 100, false, "", "Trying to use a suspended player"},
+  };
+  const Bytes roster = ReadFileBytes(h.state.swap("swp.r"));
+  const Team team = h.state.team(0);
+  for (const auto& c : cases) {
+    WriteFileAtomic(h.state.swap("swp.r"), roster);
+    h.state.team(0) = team;
+    Save(dir / "t.lns", "secret");
+    RecordFile f(dir / "t.lns", LinesFileRecord::kSize);
+    LinesFileRecord r = f.getRecord<LinesFileRecord>(1);
+    r.Status[static_cast<std::size_t>(c.slot)] = c.file;
+    r.Lines.at(0, 0) = 3;
+    f.putRecord(1, r);
+    loadteam(h.state, 0, 0);
+    at(c.slot).Status = c.league;
+    at(c.slot).Suspended = c.suspended;
+    h.state.team(0).LinesOK = kTrue;
+    SaveTeam(h.state, 0, 0);
+    const LineTable before = h.state.team(0).Lines;
+    const std::string logBefore = ReadAll(h.state.swap(swp::Transactions));
+    h.state.CurTeam = 0;
+    ImportLinesSub(h.state, 0, nullptr, dir / "t.lns");
+    loadteam(h.state, 0, 0);
+    EXPECT_EQ(at(c.slot).Status, c.after) << c.what;
+    EXPECT_EQ(h.state.team(0).Lines, c.linesTaken ? r.Lines : before) << c.what;
+    EXPECT_EQ(ReadAll(h.state.swap(swp::Transactions)).substr(logBefore.size()),
+              *c.log ? std::string(c.log) + "\r\n" : "")
+        << c.what;
+    EXPECT_TRUE(!c.told || h.ui.told(c.told, "Team0 lines are not valid")) << c.what;
+  }
+}
+
+// The text of a valid file for Team0's auto lines, as tokens.
+std::vector<std::string> TextOf(const LeagueState& s, const LineTable& t) {
+  std::vector<std::string> tok;
+  auto num = [&](int slot) { return std::to_string(s.player(0, slot).Num); };
+  for (int i = 0; i < kRosterSlots; ++i)
+    if (s.player(0, i).Status == 200) tok.push_back(num(i));
+  tok.push_back("0");
+  const int slots[] = {5, 5, 5, 5, 5, 5, 4, 4, 4, 4, 3, 3};
+  for (int row = 0; row < 12; ++row)
+    for (int k = 0; k < slots[row]; ++k) tok.push_back(num(t.at(row, k)));
+  for (int k : {1, 2, 0}) tok.push_back(num(t.at(12, k)));
+  return tok;
+}
+
+TEST_F(LinesFileTest, TheTextImportRefusesEachWrongFileWithItsText) {
+  constexpr int kIgnored = 20, kE1C = 21, kGoalie = 20 + 1 + 52 + 2;  // after 52 line entries and the spares
+  struct Case {
+    const char* what;
+    int token;  // replaced, -1 for none
+    std::string with;
+    const char* told;  // nullptr: accepted
+    std::string lineEnd = "\r\n";
+  } cases[] = {
+      {"a good file with CR LF ends", -1, "", nullptr},
+      {"a good file with LF ends", -1, "", nullptr, "\n"},
+      {"the ignored entry may hold anything", kIgnored, "Team0", nullptr},
+      {"a missing dressed player", 3, "***", "Not Enough Players in Roster"},
+      {"a jersey nobody wears", 3, "99", "Wrong Player Number Used"},
+      {"a player off the roster's numbers", 3, "1", "Wrong Player Number Used"},
+      {"an injured player dressed", 0, "24", "Player with no. 24 can't be in Roster"},
+      {"a missing line entry", kE1C, "***", "Not Enough Players"},
+      {"a goalie at centre", kE1C, "21", "Playing Goalie as Forward"},
+      {"an undressed player on a line", kE1C, "20", "Player with no. 20 can't be in Roster"},
+      {"a number nobody wears on a line", kE1C, "77", "Errors in File"},
+      {"a skater in goal", kGoalie, "2", "Playing Forward as Goalie"},
+      {"Windows-1252 text for a number", 5, "1\xE9", "Errors in File"},
+      {"a file cut short", kGoalie, "", "Errors in File"},
+  };
+  LineEditor auto0(h.state, 0);
+  ASSERT_TRUE(auto0.cmdAuto());
+  const std::vector<std::string> good = TextOf(h.state, auto0.LineBuf);
+  for (const auto& c : cases) {
+    std::vector<std::string> tok = good;
+    if (c.token >= 0) tok[static_cast<std::size_t>(c.token)] = c.with;
+    if (c.token >= 0 && c.with.empty()) tok.resize(static_cast<std::size_t>(c.token));
+    std::string text = "\xEF\xBB\xBF";
+    for (std::size_t i = 0; i < tok.size(); ++i) text += tok[i] + (i % 5 == 4 ? c.lineEnd : ",");
+    std::ofstream(dir / "t.txt", std::ios::binary) << text;
+    LineEditor e(h.state, 0);
+    h.state.player(0, 22).Status = 3;  // no. 24, injured in the minors
+    const LineTable before = e.LineBuf;
+    LinesImport r = cmdTextLines(h.state, e, dir / "t.txt");
+    EXPECT_EQ(r.ok, c.told == nullptr) << c.what << ": " << r.why;
+    if (!c.told) {
+      EXPECT_EQ(e.LineBuf, auto0.LineBuf) << c.what;
+      continue;
+    }
+    EXPECT_TRUE(h.ui.told(c.told, "Invalid File")) << c.what;
+    EXPECT_EQ(e.LineBuf, before) << c.what;
+    EXPECT_EQ(h.state.player(0, 19).Status, 200) << c.what << ": statuses stay";
+    EXPECT_NE(r.why.find("t.txt"), std::string::npos) << c.what;
+  }
+  EXPECT_NE(TextLinesTokens("1,\r\n\xE9").back().line, 1) << "lines are counted";
+}
+
+TEST_F(LinesFileTest, AutoLoadLinesReportsEveryTeamItCouldNotLoad) {
+  WriteLinesDirectory(h.home, dir.string());
+  const LineTable made = Save(dir / "Team0.lns", "secret");
+  Save(dir / "Team1.lns", "secret", 1);
+  Bytes cut = ReadFileBytes(dir / "Team1.lns");
+  cut.resize(100);
+  WriteFileAtomic(dir / "Team1.lns", cut);
+  Save(dir / "Team3.lns", "not the password", 3);  // the password is not tested
+  const std::string report = LoadAutoLines(h.state);
+  EXPECT_EQ(report.substr(0, report.find('(')), "Team1 -- Errors in File ");
+  EXPECT_NE(report.find("Team1.lns is 100 bytes long"), std::string::npos) << report;
+  EXPECT_TRUE(report.ends_with(")\r\nTeam2 -- No Lines file found\r\n")) << report;
+  EXPECT_TRUE(h.ui.told(report, "Lines Loading Report"));
+  const Bytes kept = ReadFileBytes(LinesLoadingReportFile(h.state));
+  EXPECT_EQ(std::string(kept.begin(), kept.end()), report);
+  EXPECT_EQ(h.state.team(0).Lines, made);
+  EXPECT_NE(h.state.team(3).LinesOK, 0);
 }
 
 }  // namespace

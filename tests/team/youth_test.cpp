@@ -1,13 +1,13 @@
 // Prospects: adding to a full list, and activation through a database match,
 // by hand, and onto a full roster.
-#include "team/youth_form.h"
-
 #include <gtest/gtest.h>
 
 #include <fstream>
 
 #include "league/league_files.h"
+#include "support/golden.h"
 #include "support/league_fixture.h"
+#include "team/youth_form.h"
 #include "transactions/database_players.h"
 #include "util/record_file.h"
 
@@ -24,10 +24,6 @@ struct ProspectsTest : ::testing::Test {
     free.P.Num = 2;  // worn on the team
     db.putRecord(1, taken);
     db.putRecord(2, free);
-  }
-  std::string Log() {
-    std::ifstream in(h.state.swap(swp::Transactions), std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
   }
 };
 
@@ -71,7 +67,9 @@ TEST_F(ProspectsTest, ActivationBringsTheProspectOntoTheRoster) {
     EXPECT_EQ(p.Name.str(), c.prospect) << c.what;
     EXPECT_EQ(p.rating(kSpd), c.rating) << c.what;
     EXPECT_NE(p.Num, 2) << c.what << ": a worn number changes";
-    EXPECT_TRUE(Log().ends_with(std::string("Team0 sign ") + c.prospect + "<BR><BR>\r\n")) << c.what;
+    EXPECT_TRUE(
+        ReadAll(h.state.swap(swp::Transactions)).ends_with(std::string("Team0 sign ") + c.prospect + "<BR><BR>\r\n"))
+        << c.what;
   }
   EXPECT_TRUE(FindMatch(h.state, 0, ViewProspects(h.state, 0).cmdAdd("Ann Ace")).records().empty())
       << "a matched record is used";
@@ -83,6 +81,8 @@ TEST_F(ProspectsTest, AFullListRefusesBeforeThePrompt) {
   EXPECT_EQ(v.cmdAdd(), -1);
   EXPECT_TRUE(h.ui.told("No room on prospect list", "Add Prospect"));
   EXPECT_TRUE(h.ui.callsOf("prompt").empty());
+  v.cmdDelete(7);
+  EXPECT_EQ(ViewProspects(h.state, 0).cmdAdd("Again"), 7) << "a deleted entry frees its place, on file too";
 }
 
 }  // namespace

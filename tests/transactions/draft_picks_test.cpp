@@ -1,18 +1,22 @@
+// Draft picks: the fresh set, sorting, and the form that edits a team's picks.
+#include "transactions/draft_picks.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
 #include "support/league_fixture.h"
-#include "transactions/draft_picks.h"
+#include "transactions/draft_pick_editor.h"
 
-namespace kvl {
+namespace kvl::test {
 namespace {
 
 int ActiveCount(const DraftPickRecord& r) {
-  return static_cast<int>(std::count_if(r.Pick.begin(), r.Pick.end(), [](const DraftPick& p) { return p.Active != 0; }));
+  return static_cast<int>(
+      std::count_if(r.Pick.begin(), r.Pick.end(), [](const DraftPick& p) { return p.Active != 0; }));
 }
 
-TEST(DraftPicks, MakeDraftPicksGivesEveryTeamItsOwnFiftyFour) {
+TEST(DraftPicks, MakeDraftPicksGivesEveryTeamItsOwnFiftyFourAndAnEmptyRecordSortsEmpty) {
   test::Harness h;
   h.load(test::StandardLeague(8));
   MakeDraftPicks(h.state);
@@ -22,11 +26,11 @@ TEST(DraftPicks, MakeDraftPicksGivesEveryTeamItsOwnFiftyFour) {
     EXPECT_EQ(r.Pick[0].Active, 0) << "entry 0 is never used";
     // Entry 1 + year x 9 + round holds that pick.
     const DraftPick& p = r.Pick[1 + 4 * 9 + 7];
-    EXPECT_EQ(p.CurrentYear, 4);
-    EXPECT_EQ(p.Round, 7);
-    EXPECT_EQ(p.OrigTeam, t);
-    EXPECT_EQ(p.Owner, t);
+    EXPECT_EQ((std::array{int(p.CurrentYear), int(p.Round), int(p.OrigTeam), int(p.Owner)}), (std::array{4, 7, t, t}));
   }
+  WriteDraftPicks(h.state, 0, DraftPickRecord{});
+  SortDraftPicks(h.state, 0);
+  EXPECT_EQ(ActiveCount(ReadDraftPicks(h.state, 0)), 0);
 }
 
 DraftPick Pick(int year, int round, int orig, int owner) {
@@ -59,23 +63,57 @@ TEST(DraftPicks, SortDropsTradedYearsAndKeepsTheOldOrderWithinARound) {
     EXPECT_NE(p.CurrentYear, 3);
   }
   // Year 0, round 1: own pick first, then the one held at entry 100, then 200.
-  EXPECT_EQ(sorted.Pick[2].OrigTeam, 2);
-  EXPECT_EQ(sorted.Pick[3].OrigTeam, 5);
-  EXPECT_EQ(sorted.Pick[4].OrigTeam, 6);
-  EXPECT_EQ(sorted.Pick[5].Round, 2);
   const DraftPick& tail = sorted.Pick[static_cast<std::size_t>(last)];
-  EXPECT_EQ(tail.CurrentYear, 5);
-  EXPECT_EQ(tail.Round, 8);
-  EXPECT_EQ(tail.OrigTeam, 7);
+  EXPECT_EQ((std::array{int(sorted.Pick[2].OrigTeam), int(sorted.Pick[3].OrigTeam), int(sorted.Pick[4].OrigTeam),
+                        int(sorted.Pick[5].Round), int(tail.CurrentYear), int(tail.Round), int(tail.OrigTeam)}),
+            (std::array{2, 5, 6, 2, 5, 8, 7}));
 }
 
-TEST(DraftPicks, SortOfAnEmptyRecordStaysEmpty) {
+struct PickEditor : ::testing::Test {
   test::Harness h;
-  h.load(test::StandardLeague(8));
-  WriteDraftPicks(h.state, 0, DraftPickRecord{});
-  SortDraftPicks(h.state, 0);
-  EXPECT_EQ(ActiveCount(ReadDraftPicks(h.state, 0)), 0);
+  void SetUp() override {
+    test::LeaguePlan plan = test::StandardLeague(4);
+    plan.header.CurrentYear = 2026;
+    h.load(plan);
+    MakeDraftPicks(h.state);
+  }
+};
+
+TEST_F(PickEditor, KeptChangesAreWrittenInOrder) {
+  DraftPickEditor form(h.state, 0);
+  ASSERT_TRUE(form.cmdRemove(1));     // its own 2027 first rounder
+  ASSERT_TRUE(form.cmdAdd(0, 0, 3));  // team 3's instead
+  h.ui.push("yes");
+  ASSERT_TRUE(form.cmdExit());
+  const DraftPickRecord r = ReadDraftPicks(h.state, 0);
+  // Sorted back to the head of its year and round.
+  EXPECT_EQ((std::array{int(r.Pick[1].OrigTeam), int(r.Pick[1].Owner), int(r.Pick[2].Round), int(r.Pick[55].Active)}),
+            (std::array{3, 0, 1, 0}));
+  EXPECT_TRUE(h.state.Dirty);
+}
+
+TEST_F(PickEditor, ANoOrABadPickChangesNothing) {
+  DraftPickEditor form(h.state, 1);
+  struct Row {
+    int year, round, team;
+    const char* told;
+  };
+  const Row bad[] = {
+      {6, 0, 0, "Draft picks of Team1: draft 2033 is outside the next six drafts."},
+      {0, 9, 0, "Draft picks of Team1: round 10 is outside rounds 1 to 9."},
+      {0, 0, 4, "Draft picks of Team1: team 4 is outside the league's teams."},
+  };
+  for (const Row& b : bad) {
+    EXPECT_FALSE(form.cmdAdd(b.year, b.round, b.team));
+    EXPECT_TRUE(h.ui.told(b.told, "Edit Draft Picks")) << b.told;
+  }
+  EXPECT_FALSE(form.cmdRemove(60)) << "no pick there";
+  EXPECT_FALSE(form.Changed);
+  ASSERT_TRUE(form.cmdRemove(5));
+  h.ui.push("no");
+  EXPECT_FALSE(form.cmdExit());
+  EXPECT_EQ(ReadDraftPicks(h.state, 1).Pick[5].Active, kTrue);
 }
 
 }  // namespace
-}  // namespace kvl
+}  // namespace kvl::test

@@ -76,11 +76,9 @@ TEST(CheckWaivers, YesOpensARecordAndLogsNoKeepsHimUp) {
   ASSERT_EQ(ReadWaivers(yes.h.state).size(), 1u);
   const WaiverRecord r = ReadWaivers(yes.h.state)[0];
   EXPECT_EQ(r.Name, yes.veteran().Name);
-  EXPECT_EQ(r.Holder, 0);
-  EXPECT_EQ(r.ClaimedBy, kNoPlayer);
-  EXPECT_EQ(r.Open[3], -1);
-  EXPECT_EQ(r.Open[4], 0) << "open only to the league's teams";
-  EXPECT_EQ(yes.veteran().list(), 0);
+  EXPECT_EQ((std::array{int(r.Holder), int(r.ClaimedBy), int(r.Open[3]), int(r.Open[4]), yes.veteran().list()}),
+            (std::array{0, int(kNoPlayer), -1, 0, 0}))
+      << "open only to the league's teams";
   const std::string line = "Team0 place " + yes.veteran().Name.str() + " on waivers<BR><BR>\r\n";
   EXPECT_EQ(ReadAll(yes.h.home / "swp.tr"), line);
   EXPECT_EQ(ReadAll(yes.h.home / "swp.th"), line);
@@ -116,9 +114,8 @@ TEST(Waivers, AHigherTeamTakesHimBackAndEachHolderIsPaid) {
   ASSERT_EQ(ListWaivers(s, 1).size(), 1u) << "a team above it still may";
   EXPECT_EQ(s.team(2).CurFin - s.team(0).CurFin, -2 * kWaiverFee);
   ASSERT_TRUE(Waivers(s, 1).cmdClaim(1));
-  EXPECT_EQ(s.team(1).CurFin, -kWaiverFee);
-  EXPECT_EQ(s.team(2).CurFin, 0) << "paid back by the higher claim";
-  EXPECT_FALSE(s.team(2).Waived) << "free to claim again";
+  // Team 2 is paid back by the higher claim, and free to claim again.
+  EXPECT_EQ((std::array{s.team(1).CurFin, s.team(2).CurFin, int(s.team(2).Waived)}), (std::array{-kWaiverFee, 0, 0}));
   loadteam(s, 1, 0);
   const int slot = ReadWaivers(s)[0].Slot;
   EXPECT_EQ(s.player(0, slot).Name, name);
@@ -134,8 +131,7 @@ TEST(Waivers, TheOwnerRecallsHisPlayer) {
   EXPECT_FALSE(Waivers(s, 1).MayRecall(1));
   ASSERT_TRUE(Waivers(s, 3).cmdClaim(1));
   ASSERT_TRUE(owner.cmdRecall(1));
-  EXPECT_EQ(s.team(3).CurFin, 0);
-  EXPECT_EQ(s.team(0).CurFin, 0) << "paid the fee and got it back";
+  EXPECT_EQ((std::array{s.team(3).CurFin, s.team(0).CurFin}), (std::array{0, 0})) << "paid the fee and got it back";
   EXPECT_EQ(ReadWaivers(s)[0].Holder, 0);
   EXPECT_NE(ReadAll(w.h.home / "swp.tr").find("Team0 recall "), std::string::npos);
 }
@@ -165,10 +161,9 @@ TEST(FreeAgents, SignsIntoAFreeSlotButNotAFullRoster) {
   EXPECT_FALSE(form.cmdAdd(1, agent.record, {500000.0, 11}));
   ASSERT_TRUE(form.cmdAdd(1, agent.record, {750000.0, 3}));
   loadteam(s, 1, 0);
-  const int slot = FirstFreeSlot(s, 0) - 1;
-  EXPECT_EQ(s.player(0, slot).Name.str(), agent.name);
-  EXPECT_EQ(s.player(0, slot).Salary, 750000);
-  EXPECT_EQ(s.player(0, slot).Contract, 3);
+  const Player& hired = s.player(0, FirstFreeSlot(s, 0) - 1);
+  EXPECT_EQ(hired.Name.str(), agent.name);
+  EXPECT_EQ((std::array{hired.Salary, int(hired.Contract)}), (std::array{750000, 3}));
   EXPECT_NE(ReadAll(h.home / "swp.th").find(" sign " + agent.name + " to a 3 year, $750,000 contract<BR><BR>"),
             std::string::npos);
   ASSERT_EQ(form.list().size(), 1u) << "listed no more";
@@ -193,8 +188,7 @@ TEST(RandomContracts, OneToFourYearsForEveryNamedPlayer) {
     for (int slot = 0; slot < kRosterSlots; ++slot) {
       const Player& p = h.state.player(0, slot);
       if (p.empty()) continue;
-      ASSERT_GE(p.Contract, 1);
-      ASSERT_LE(p.Contract, 4);
+      ASSERT_TRUE(p.Contract >= 1 && p.Contract <= 4) << int(p.Contract);
       ++seen[p.Contract];
     }
   }
