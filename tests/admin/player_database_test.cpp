@@ -15,15 +15,6 @@
 namespace kvl::test {
 namespace {
 
-Bytes Encode(const std::vector<DbRecord>& records) {
-  Bytes all;
-  for (const DbRecord& r : records) {
-    Bytes b = EncodeRecord(r);
-    all.insert(all.end(), b.begin(), b.end());
-  }
-  return all;
-}
-
 struct PlayerDatabaseTest : ::testing::Test {
   Harness h;
   fs::path file;
@@ -36,10 +27,13 @@ struct PlayerDatabaseTest : ::testing::Test {
     std::vector<DbRecord> v;
     for (int i = 1; i <= n; ++i)
       v.push_back({static_cast<i16>(i % 2 ? 0 : -1), MakePlayer("P" + std::to_string(i), i % 5, 40 + i)});
-    WriteFileAtomic(file, Encode(v));
-    return Encode(v);
+    return WriteDb(v);
   }
-  void WriteDb(const std::vector<DbRecord>& v) { WriteFileAtomic(file, Encode(v)); }
+  Bytes WriteDb(const std::vector<DbRecord>& v) {
+    Bytes bytes = EncodeRecords(v);
+    WriteFileAtomic(file, bytes);
+    return bytes;
+  }
 };
 
 TEST_F(PlayerDatabaseTest, DeletingKeepsEveryOtherRecordByteForByte) {
