@@ -27,10 +27,12 @@ ScheduleFileFacts ReadScheduleFacts(const std::filesystem::path& scx, int n) {
     std::size_t at = k * kRecord;
     int home = bytes[at], away = bytes[at + 2];
     if (U16(bytes, at + 6) != static_cast<int>(k + 1)) f.numberedFromOne = false;
-    for (std::size_t i : {8u, 9u, 10u, 11u})
-      if (bytes[at + i] != 0) f.freshRecords = false;
-    for (std::size_t i = 1; i < kRecord; ++i)
-      if (i != 2 && (i < 6 || i > 11) && bytes[at + i] != 0) f.freshRecords = f.freshButDays = false;
+    // Bytes 0 and 2 hold the teams, 6-7 the game number, 8-11 the days; a fresh record is zero elsewhere.
+    for (std::size_t i = 1; i < kRecord; ++i) {
+      if (i == 2 || i == 6 || i == 7 || bytes[at + i] == 0) continue;
+      f.freshRecords = false;
+      if (i < 8 || i > 11) f.freshButDays = false;
+    }
     if (home >= n || away >= n) continue;
     ++f.games[static_cast<std::size_t>(home)][static_cast<std::size_t>(away)];
     ++f.games[static_cast<std::size_t>(away)][static_cast<std::size_t>(home)];
