@@ -2,29 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <set>
 
 #include "league/league_files.h"
 #include "league/roster_check.h"
 #include "season/schedule_file.h"
-#include "support/found_cli.h"
+#include "support/found_file_set.h"
 #include "support/league_fixture.h"
 #include "util/error.h"
 #include "util/record_file.h"
 
 namespace kvl {
 namespace {
-
-// Every file of the demo league in a home folder, by name.
-std::map<std::string, Bytes> DemoFiles(const fs::path& home) {
-  std::map<std::string, Bytes> files;
-  for (const auto& e : fs::directory_iterator(home)) {
-    std::string name = e.path().filename().string();
-    if (name.rfind("Demo.", 0) == 0) files[name] = ReadFileBytes(e.path());
-  }
-  return files;
-}
 
 DemoSummary MakeDemo(test::Harness& h, int teams, std::uint64_t seed) { return RunDemo(h.state, {teams, seed}); }
 
@@ -57,9 +46,9 @@ TEST(Demo, EveryTeamIsAlignedFilledCoachedAndPlaysTheYear) {
   EXPECT_GE(d.playoffGames, 15 * 4) << "fifteen series of at least four games";
   EXPECT_FALSE(s.league.ScheduleMade);
   EXPECT_TRUE(s.league.FirstDayPending) << "the next season waits for its schedule";
-  const auto files = DemoFiles(h.home);
+  const auto files = test::SnapshotDir(h.home, "Demo.");
   MakeDemo(h, 24, 1);
-  EXPECT_EQ(DemoFiles(h.home), files) << "a rerun in the same home writes the same files";
+  EXPECT_EQ(test::SnapshotDir(h.home, "Demo."), files) << "a rerun in the same home writes the same files";
 }
 
 TEST(Demo, AlignsWithinTheDivisionLimitsAndRefusesSizesOutsideEightToFifty) {
@@ -84,25 +73,6 @@ TEST(Demo, AlignsWithinTheDivisionLimitsAndRefusesSizesOutsideEightToFifty) {
     EXPECT_TRUE(h.ui.told("The demo league has 8 to 50 teams.", "Demo"));
     EXPECT_FALSE(fs::exists(h.home / "Demo.lge"));
   }
-}
-
-TEST(DemoCommand, MakesTheSameLeagueTwiceInFreshHomesAndInfoShowsIt) {
-  test::TempDir dir;
-  auto kvl = [&](const char* home, std::vector<std::string> args) {
-    args.insert(args.begin(), {"--home", (dir.path() / home).string()});
-    return test::RunKvl(args, dir.path() / "io");
-  };
-  test::ProgramRun one = kvl("one", {"--seed", "7", "demo"});
-  ASSERT_EQ(one.status, 0) << one.out << one.err;
-  EXPECT_NE(one.out.find("Demo league: 24 teams, 672 players"), std::string::npos) << one.out;
-  EXPECT_NE(one.out.find((dir.path() / "one" / "Demo.lge").string()), std::string::npos) << one.out;
-  ASSERT_EQ(kvl("two", {"demo", "--seed", "7"}).status, 0);
-  EXPECT_EQ(DemoFiles(dir.path() / "one"), DemoFiles(dir.path() / "two"));
-  test::ProgramRun info = kvl("one", {"info"});
-  ASSERT_EQ(info.status, 0) << info.out << info.err;
-  EXPECT_NE(info.out.find("Teams: 24"), std::string::npos) << info.out;
-  EXPECT_EQ(info.out.find("invalid rosters"), std::string::npos) << info.out;
-  EXPECT_EQ(kvl("one", {"demo", "--teams", "51"}).status, 2) << "a usage error";
 }
 
 }  // namespace

@@ -6,11 +6,14 @@
 
 namespace kvl::test {
 
-Snapshot SnapshotDir(const fs::path& dir) {
+Snapshot SnapshotDir(const fs::path& dir, const std::string& prefix) {
   Snapshot s;
-  for (const auto& e : fs::directory_iterator(dir))
-    if (e.is_regular_file() && e.path().extension() != ".lock")  // held while open, not league data
-      s[e.path().filename().string()] = ReadFileBytes(e.path());
+  for (const auto& e : fs::directory_iterator(dir)) {
+    std::string name = e.path().filename().string();
+    // The lock is held while the league is open, not league data.
+    if (e.is_regular_file() && e.path().extension() != ".lock" && name.starts_with(prefix))
+      s[name] = ReadFileBytes(e.path());
+  }
   return s;
 }
 

@@ -11,9 +11,9 @@
 
 namespace kvl::test {
 
-// Every regular file of a folder by name, with its bytes.
+// Every regular file of a folder whose name starts with `prefix`, by name, with its bytes.
 using Snapshot = std::map<std::string, Bytes>;
-Snapshot SnapshotDir(const fs::path& dir);
+Snapshot SnapshotDir(const fs::path& dir, const std::string& prefix = "");
 // What differs between two snapshots ("+name", "-name", "~name"); empty when equal.
 std::vector<std::string> Differences(const Snapshot& before, const Snapshot& after);
 
