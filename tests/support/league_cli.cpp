@@ -1,6 +1,10 @@
 #include "support/league_cli.h"
 
+#include "support/golden.h"
+
 namespace kvl::test {
+
+CliLeague::CliLeague() : home(dir.path() / "home") {}
 
 CliLeague::CliLeague(const LeaguePlan& plan, const std::string& name, std::vector<std::string> lead)
     : home(dir.path() / "home"), path((dir.path() / "league" / name).string()), lead(std::move(lead)) {
@@ -8,11 +12,33 @@ CliLeague::CliLeague(const LeaguePlan& plan, const std::string& name, std::vecto
   WriteLeague(plan, path);
 }
 
-ProgramRun CliLeague::kvl(std::vector<std::string> args, const std::string& input) const {
-  std::vector<std::string> all{"--home", home.string(), "--league", path + ".lge"};
+ProgramRun CliLeague::kvl(std::vector<std::string> args, const std::string& input) {
+  std::vector<std::string> all{"--home", home.string()};
+  if (pinLeague && !path.empty()) all.insert(all.end(), {"--league", path + ".lge"});
   all.insert(all.end(), lead.begin(), lead.end());
   all.insert(all.end(), args.begin(), args.end());
-  return RunKvl(all, dir.path() / "io", input);
+  ProgramRun r = RunKvl(all, dir.path() / "io", input);
+  std::string line = "$ kvl";
+  for (const auto& a : args) line += " " + (a.empty() || a.find(' ') != std::string::npos ? "\"" + a + "\"" : a);
+  auto lines = [](const std::string& text) { return text.empty() || text.ends_with('\n') ? text : text + "\n"; };
+  transcript += plain(line) + "\n" + lines(plain(r.out));
+  if (!r.err.empty()) transcript += "--- stderr\n" + lines(plain(r.err));
+  if (r.status != 0) transcript += "--- exit " + std::to_string(r.status) + "\n";
+  return r;
+}
+
+void CliLeague::note(const std::string& fact) { transcript += "# " + plain(fact) + "\n"; }
+
+void CliLeague::expectTranscript(const std::string& testFile, const std::string& name) const {
+  ExpectGolden(testFile, name, transcript);
+}
+
+std::string CliLeague::plain(const std::string& text) const {
+  std::string out = text;
+  // The program's own path shows in its help.
+  for (const std::string& from : {dir.path().string(), std::string(KVL_BINARY)})
+    for (std::size_t at; (at = out.find(from)) != std::string::npos;) out.replace(at, from.size(), from == KVL_BINARY ? "kvl" : "$TMP");
+  return out;
 }
 
 }  // namespace kvl::test
