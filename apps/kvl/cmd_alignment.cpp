@@ -32,7 +32,7 @@ AlignLeague OpenAlign(Session& s) {
 
 // Conferences and divisions are numbered from 1 on the command line, as info shows them.
 CLI::Option* AddNumber(CLI::App* cmd, const std::string& name, std::shared_ptr<int> to, const std::string& what) {
-  return cmd->add_option(name, *to, what)->required()->check(CLI::PositiveNumber);
+  return cmd->add_option(name, *to, what)->required()->check(kPositiveWhole);
 }
 
 struct AlignArgs {

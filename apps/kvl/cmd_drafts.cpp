@@ -108,7 +108,7 @@ void AddEntryOptions(CLI::App* cmd, EntryArgs& a) {
   cmd->add_option("--pick", a.pick, "the team on the clock takes this player (name or number in the list)");
   cmd->add_flag("--prospect", a.prospect, "put the pick on the prospect list instead of the roster");
   cmd->add_option("--auto", a.autoPicks, "the next N picks take the best undrafted player by Overall")
-      ->check(CLI::PositiveNumber);
+      ->check(kPositiveWhole);
   cmd->add_flag("--available", a.available, "list the undrafted players");
   cmd->add_flag("--output", a.output, "write the draft page");
 }

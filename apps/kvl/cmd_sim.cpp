@@ -59,7 +59,7 @@ void RegisterPlayGames(CLI::App& app, Session& s) {
                              "the playoffs); box scores and the daily page go to Transfer/",
                              true, [&s, args] { PlayGames(s, *args); });
   auto* days = cmd->add_option("--days", args->days, "play N game days (a positive whole number)")
-                   ->check(CLI::PositiveNumber);
+                   ->check(kPositiveWhole);
   auto* season = cmd->add_flag("--season", args->season, "play to the end of the schedule")->excludes(days);
   cmd->add_flag("--rest-day", args->restDay, "rest every team one day instead of playing")
       ->excludes(days)
@@ -90,7 +90,7 @@ void RegisterSimProfile(CLI::App& app, Session& s) {
         o.jobs = args->jobs;
         s.ui.print(ProfileText(RunProfile(s.state, o)));
       });
-  cmd->add_option("--games", args->games, "how many games (default 1000)")->check(CLI::PositiveNumber);
+  cmd->add_option("--games", args->games, "how many games (default 1000)")->check(kPositiveWhole);
   cmd->add_option("--pair", args->pair, "play only AWAY at HOME")->expected(2);
   cmd->add_option("--jobs", args->jobs, "threads to play on; the figures are the same for any number (default 1)")
       ->check(CLI::Range(1, 64));

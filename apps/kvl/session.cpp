@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <charconv>
 #include <iostream>
 
 #include "util/error.h"
@@ -10,6 +11,15 @@ namespace kvl {
 
 Session::Session(fs::path homeDir)
     : home(std::move(homeDir)), ui(std::cin, std::cout, std::cerr), state(ui, clock, home) {}
+
+const CLI::Validator kPositiveWhole(
+    [](std::string& text) {
+      long n = 0;
+      auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), n);
+      if (ec == std::errc{} && end == text.data() + text.size() && n > 0) return std::string();
+      return "\"" + text + "\" is not a positive whole number";
+    },
+    "POSITIVE");
 
 CLI::App* AddCommand(CLI::App& app, Session& s, const std::string& name, const std::string& description,
                      bool needsLeague, std::function<void()> run) {

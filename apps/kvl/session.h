@@ -33,6 +33,10 @@ struct Session {
 CLI::App* AddCommand(CLI::App& app, Session& s, const std::string& name, const std::string& description,
                      bool needsLeague, std::function<void()> run);
 
+// A whole number of at least 1. CLI11's PositiveNumber would answer 0 with a
+// range of doubles ("not in range 0.000000 to 1797...").
+extern const CLI::Validator kPositiveWhole;
+
 // Registration of each area's commands; each lives in its own file.
 void RegisterLeagueCommands(CLI::App& app, Session& s);
 void RegisterTeamCommands(CLI::App& app, Session& s);
