@@ -1,62 +1,90 @@
-// A small league's whole year from the command line: the season, the playoffs
-// to a champion, the re-rate, the new season, and a second year after it.
-#include <gtest/gtest.h>
-
+// A small league's whole year from the command line: the season, checked by its
+// invariants (the saved team records, player totals, schedule scores and box
+// scores tell the same story), the playoffs to a champion, the re-rate, the new
+// season, and a second year after it.
 #include <map>
 
-#include "league/league_files.h"
 #include "season/schedule_file.h"
-#include "support/found_cli.h"
-#include "support/league_fixture.h"
+#include "support/kvl_test.h"
+#include "support/league_cli.h"
 #include "support/schedule_leagues.h"
-#include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
 
-struct YearCli {
-  YearCli() {
-    fs::create_directories(dir.path() / "league");
-    path = (dir.path() / "league" / "year").string();
-    LeaguePlan plan = AlignedLeague({{2, 2}, {2, 2}});
-    plan.header.PlayoffSize = 1;  // four a conference
-    WriteLeague(plan, path);
+struct Record {
+  int w = 0, l = 0, t = 0, gf = 0, ga = 0;
+};
+
+// The played season's schedule, team records and player totals agree.
+void ExpectSeasonAgrees(const std::string& path, const fs::path& transfer) {
+  Harness h;
+  LoadLg(h.state, path);
+  const std::vector<ScheduleRecord> games = ReadSchedule(path + ".scx");
+  ASSERT_EQ(static_cast<int>(games.size()), h.state.league.LeagueGames);
+  std::map<int, Record> fromSchedule;
+  for (const ScheduleRecord& g : games) {
+    ASSERT_NE(g.Played, 0) << "game " << g.GameNumber;
+    EXPECT_TRUE(fs::exists(transfer / (fs::path(path).filename().string() + std::to_string(g.GameNumber) + ".html")));
+    Record &home = fromSchedule[g.HomeTeam], &away = fromSchedule[g.AwayTeam];
+    home.gf += g.HomeScore, home.ga += g.AwayScore, away.gf += g.AwayScore, away.ga += g.HomeScore;
+    int sign = (g.HomeScore > g.AwayScore) - (g.HomeScore < g.AwayScore);
+    (sign > 0 ? home.w : sign < 0 ? home.l : home.t)++;
+    (sign > 0 ? away.l : sign < 0 ? away.w : away.t)++;
   }
-  ProgramRun kvl(std::vector<std::string> args, const std::string& league) {
-    args.insert(args.begin(), {"--home", (dir.path() / "home").string(), "--league", league + ".lge", "--seed", "4"});
-    return RunKvl(args, dir.path() / "scratch");
+  for (int t = 0; t < h.state.numTeams(); ++t) {
+    const Team& team = h.state.team(t);
+    const Record& r = fromSchedule[t];
+    EXPECT_EQ((std::array{int(team.W[0]), int(team.L[0]), int(team.T[0]), int(team.GF), int(team.GA)}),
+              (std::array{r.w, r.l, r.t, r.gf, r.ga}))
+        << "team " << t;
+    loadteam(h.state, t, 0);
+    int skaterGoals = 0, goalsAgainst = 0, goalieDecisions = 0;
+    for (int slot = 0; slot < kRosterSlots; ++slot) {
+      const Player& p = h.state.player(0, slot);
+      if (p.Pos == kGoalie)
+        goalsAgainst += p.PIM, goalieDecisions += p.SH + p.GW + p.GT;
+      else
+        skaterGoals += p.G;
+    }
+    EXPECT_EQ((std::array{skaterGoals, goalsAgainst, goalieDecisions}), (std::array{r.gf, r.ga, r.w + r.l + r.t}))
+        << "team " << t;
   }
-  std::map<std::string, Bytes> files(const std::string& base) {
+}
+
+TEST(YearCommands, ASeasonThePlayoffsToAChampionANewSeasonAndASecondYear) {
+  LeaguePlan plan = AlignedLeague({{2, 2}, {2, 2}});
+  plan.header.PlayoffSize = 1;  // four a conference
+  CliLeague lg(plan, "year", {"--seed", "4"});
+  const fs::path folder = lg.dir.path() / "league";
+  for (auto args : std::vector<std::vector<std::string>>{{"--yes", "make-schedule"},
+                                                        {"--yes", "start-playoffs"},  // not before the season is over
+                                                        {"--yes", "play-games", "--days", "0"},
+                                                        {"--yes", "play-games", "--days", "two"},
+                                                        {"--yes", "play-games", "--days", "2"},
+                                                        {"--yes", "play-games", "--season"},
+                                                        {"--yes", "play-games"}})
+    lg.kvl(args);
+  ExpectSeasonAgrees(lg.path, lg.home / "Transfer");
+  auto files = [](const std::string& base) {
     std::map<std::string, Bytes> out;
     for (const char* ext : {".lge", ".tms", ".ros", ".scx", ".pct"}) out[ext] = ReadFileBytes(base + ext);
     return out;
-  }
-  TempDir dir;
-  std::string path;
-};
+  };
+  const auto season = files(lg.path);
 
-TEST(YearCommands, PlayoffsToAChampionThenANewSeasonAndASecondYear) {
-  YearCli y;
-  ASSERT_EQ(y.kvl({"--yes", "make-schedule"}, y.path).status, 0);
-  EXPECT_EQ(y.kvl({"--yes", "start-playoffs"}, y.path).status, 1) << "not before the season is over";
-  ASSERT_EQ(y.kvl({"--yes", "play-games", "--season"}, y.path).status, 0);
-  const auto season = y.files(y.path);
-
-  ProgramRun start = y.kvl({"--yes", "start-playoffs"}, y.path);
-  ASSERT_EQ(start.status, 0) << start.out << start.err;
-  const std::string rerated = (y.dir.path() / "league" / "rerated").string();
-  ProgramRun play = y.kvl({"--yes", "play-games", "--season", "--save-as", rerated + ".lge"}, y.path + "PLF");
-  ASSERT_EQ(play.status, 0) << play.out << play.err;
-  EXPECT_NE(play.out.find("win the playoffs"), std::string::npos) << play.out;
-  EXPECT_EQ(y.files(y.path), season) << "the regular season's files stay as they were";
-
-  Harness h;
-  LoadLg(h.state, rerated);
-  h.state.leagueLock.release();  // read only; the next command opens it
-  const League& l = h.state.league;
+  lg.kvl({"--yes", "start-playoffs"});
+  const std::string rerated = (folder / "rerated").string(), next = (folder / "next").string();
+  lg.path += "PLF";
+  lg.kvl({"--yes", "play-games", "--season", "--save-as", rerated + ".lge"});
+  EXPECT_EQ(files((folder / "year").string()), season) << "the regular season's files stay as they were";
+  Harness before;
+  LoadLg(before.state, rerated);
+  before.state.leagueLock.release();  // read only; the next command opens it
+  const League& l = before.state.league;
   EXPECT_TRUE(l.OffSeason && !l.InPlayoffs && !l.SeasonOver);
   int alive = 0;
-  for (int t = 0; t < h.state.numTeams(); ++t) alive += h.state.team(t).PlayoffOut == 0;
+  for (int t = 0; t < before.state.numTeams(); ++t) alive += before.state.team(t).PlayoffOut == 0;
   EXPECT_EQ(alive, 1) << "one champion";
   // The final's schedule stays: its winner has four wins, and the games left
   // after the fourth are struck, never played.
@@ -69,15 +97,12 @@ TEST(YearCommands, PlayoffsToAChampionThenANewSeasonAndASecondYear) {
     ++played;
     most = std::max(most, ++wins[g.HomeScore > g.AwayScore ? g.HomeTeam : g.AwayTeam]);
   }
-  EXPECT_EQ(final.size(), 7u);
-  EXPECT_EQ(most, 4);
+  EXPECT_EQ(std::tuple(final.size(), most), std::tuple(7u, 4));
   EXPECT_GE(played, 4);
 
-  const std::string next = (y.dir.path() / "league" / "next").string();
-  ProgramRun ns = y.kvl({"--yes", "new-season", "--save-as", next + ".lge"}, rerated);
-  ASSERT_EQ(ns.status, 0) << ns.out << ns.err;
-  Harness before, after;
-  LoadLg(before.state, rerated);
+  lg.path = rerated;
+  lg.kvl({"--yes", "new-season", "--save-as", next + ".lge"});
+  Harness after;
   LoadLg(after.state, next);
   after.state.leagueLock.release();
   for (int t = 0; t < after.state.numTeams(); ++t) {
@@ -92,10 +117,10 @@ TEST(YearCommands, PlayoffsToAChampionThenANewSeasonAndASecondYear) {
       EXPECT_EQ(now.GP + now.G + now.A + now.StarPoints, 0);
     }
   }
-  ASSERT_EQ(y.kvl({"--yes", "make-schedule"}, next).status, 0);
-  ProgramRun second = y.kvl({"--yes", "play-games", "--season"}, next);
-  EXPECT_EQ(second.status, 0) << second.out << second.err;
-  EXPECT_NE(second.out.find("The season is over."), std::string::npos) << second.out;
+  lg.path = next;
+  lg.kvl({"--yes", "make-schedule"});
+  lg.kvl({"--yes", "play-games", "--season"});
+  lg.expectTranscript(__FILE__, "year.txt");
 }
 
 }  // namespace
