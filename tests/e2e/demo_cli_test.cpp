@@ -1,29 +1,157 @@
-// `kvl demo` run as a user runs it.
-#include <gtest/gtest.h>
+// The demo league from the command line: made the same twice from one seed, then
+// traded on, drafted on and expanded as a commissioner would, every run kept in a
+// golden transcript.
+#include <sstream>
 
-#include "support/found_cli.h"
 #include "support/found_file_set.h"
+#include "support/golden.h"
+#include "support/kvl_test.h"
+#include "support/league_cli.h"
+#include "transactions/draft_list.h"
+#include "transactions/draft_picks.h"
 
 namespace kvl::test {
 namespace {
 
-TEST(DemoCommand, MakesTheSameLeagueTwiceInFreshHomesAndInfoShowsIt) {
-  TempDir dir;
-  auto kvl = [&](const char* home, std::vector<std::string> args) {
-    args.insert(args.begin(), {"--home", (dir.path() / home).string()});
-    return RunKvl(args, dir.path() / "io");
+// One eight-team demo for the whole file, made once; each test works on a copy.
+const fs::path& DemoHome() {
+  static TempDir dir;
+  static const fs::path home = [] {
+    fs::path h = dir.path() / "home";
+    EXPECT_EQ(RunKvl({"--home", h.string(), "--seed", "7", "demo", "--teams", "8"}, dir.path() / "io").status, 0);
+    return h;
+  }();
+  return home;
+}
+
+// A copy of the demo home with `league` (DemoNext, DemoRerated, ...) opened by every run.
+struct DemoCopy : CliLeague {
+  explicit DemoCopy(const std::string& league) {
+    fs::copy(DemoHome(), home, fs::copy_options::recursive);
+    path = (home / league).string();
+  }
+  Snapshot files() const { return SnapshotDir(home, fs::path(path).filename().string() + "."); }
+  template <class R, class F>
+  void edit(const std::string& ext, std::size_t n, F change) {
+    RecordFile f(path + ext, R::kSize);
+    R r = f.getRecord<R>(n);
+    change(r);
+    f.putRecord(n, r);
+  }
+};
+
+// The first pick a team's offer lists, as listed.
+std::string FirstPick(const std::string& offer) {
+  std::istringstream in(offer.substr(offer.find("Picks\n") + 6));
+  std::string number, label;
+  in >> number >> std::ws;
+  std::getline(in, label);
+  return label;
+}
+
+TEST(DemoCli, TheSameSeedMakesTheSameLeague) {
+  CliLeague again;
+  ASSERT_EQ(again.kvl({"demo", "--teams", "8", "--seed", "7"}).status, 0);
+  EXPECT_EQ(SnapshotDir(again.home, "Demo"), SnapshotDir(DemoHome(), "Demo"));
+  again.kvl({"info"});
+  again.kvl({"demo", "--teams", "51"});
+  again.kvl({"demo", "--help"});
+  again.expectTranscript(__FILE__, "demo.txt");
+}
+
+// Team 0 gives two players, a prospect, a pick and cash for one player; the trade
+// shows on both rosters, the prospects, the picks, the money and the logs, and
+// the saved league loads back the same.
+TEST(DemoCli, ATradeShowsEverywhereAndSavesAsItLoads) {
+  DemoCopy lg("DemoNext");
+  lg.edit<ProspectList>(".pct", 1, [](ProspectList& l) {
+    l.Name[0].set("Young Hopeful");
+    l.Age[0] = 18;
+  });
+  lg.edit<Team>(".tms", 1, [](Team& t) { t.CurFin = 500000; });
+  lg.edit<Player>(".ros", 1, [](Player& p) { p.GP = 10, p.G = 4; });
+  const std::string pick = FirstPick(lg.kvl({"trade", "0"}).out);
+  lg.kvl({"--yes", "trade", "0", "1", "--a-player", "0", "--a-player", "1", "--a-prospect", "Young Hopeful",
+          "--a-pick", pick, "--a-cash", "200000", "--b-player", "2"});
+  for (auto args : std::vector<std::vector<std::string>>{
+           {"set-roster", "0"}, {"set-roster", "1"}, {"view-prospects", "1"}, {"view-team", "0"}, {"view-team", "1"},
+           {"edit-draft-picks", "1"}})
+    lg.kvl(args);
+  const std::string log = ReadAll(lg.path + ".tra");
+  lg.note("the log ends: " + log.substr(log.rfind("<BR><BR>\r\n") + 10));
+  RecordFile csr(lg.path + ".csr", CareerRecord::kSize);
+  ASSERT_GE(csr.count(), 1u);
+  const CareerRecord line = csr.getRecord<CareerRecord>(csr.count());
+  lg.note(fmt::format("career: {} of team {}, {} GP", line.P.Name.str(), line.Team, line.P.GP));
+  const Snapshot saved = lg.files();
+  lg.kvl({"--yes", "save"});
+  EXPECT_EQ(Differences(saved, lg.files()), std::vector<std::string>{});
+  lg.expectTranscript(__FILE__, "trade.txt");
+}
+
+TEST(DemoCli, EditedPicksAndTheDeadline) {
+  DemoCopy lg("DemoNext");
+  const std::string pick = FirstPick(lg.kvl({"trade", "0"}).out);
+  const std::string other = pick.substr(0, pick.rfind(' ')) + " " +
+                            RecordFile(lg.path + ".tms", Team::kSize).getRecord<Team>(2).Abbrev.str();
+  lg.kvl({"--yes", "edit-draft-picks", "0", "--remove", pick, "--add", other});
+  lg.kvl({"--yes", "edit-draft-picks", "0", "--add", "2 Rnd 10 " + other.substr(other.rfind(' ') + 1)});
+  lg.kvl({"trade", "0"});
+  lg.edit<League>(".lge", 1, [](League& header) { header.ScheduleMade = header.SeasonOver = kTrue; });
+  const Snapshot files = lg.files();
+  lg.kvl({"--yes", "trade", "0", "1", "--a-player", "0"});
+  EXPECT_EQ(Differences(files, lg.files()), std::vector<std::string>{});
+  lg.kvl({"trade-workshop", "0", "1", "--a-player", "0"});  // the workshop judges at any time
+  lg.expectTranscript(__FILE__, "picks_and_deadline.txt");
+}
+
+// A whole entry draft from a list file after the playoffs, then an expansion team
+// added with the alignment, stocked by the expansion draft, and the schedule made.
+TEST(DemoCli, AnEntryDraftThenAnExpansionTeamStockedAndScheduled) {
+  DemoCopy lg("DemoRerated");
+  Harness before;
+  LoadLg(before.state, lg.path);
+  before.state.leagueLock.release();
+  const int teams = before.state.numTeams(), rounds = before.state.league.DraftRounds;
+  // The first names of the database that no team holds, and one that is not in it.
+  std::string list;
+  RecordFile db(lg.path + ".drs", DbRecord::kSize);
+  for (std::size_t n = 1, left = 100; n <= db.count() && left > 0; ++n)
+    if (const DbRecord r = db.getRecord<DbRecord>(n); r.DbFlag == 0 && !r.P.empty()) list += r.P.Name.str() + "\n", --left;
+  WriteText(lg.dir.path() / "list.txt", list + "Nobody Atall\n");
+  for (auto args : std::vector<std::vector<std::string>>{
+           {"--yes", "entry-draft", "--list", (lg.dir.path() / "list.txt").string()},
+           {"--yes", "entry-draft", "--auto", "3"},
+           {"--yes", "continue-entry-draft", "--auto", "1000"}})
+    lg.kvl(args);
+
+  Harness after;
+  LoadLg(after.state, lg.path);
+  after.state.leagueLock.release();
+  EXPECT_FALSE(after.state.league.EntryDraftOn);
+  std::size_t made = 0;
+  for (const DraftListRecord& r : ReadDraftList(after.state)) made += r.FieldA != 0;
+  EXPECT_EQ(made, static_cast<std::size_t>(teams * rounds));
+  // Every pick of a later year came a year nearer; a new year was added.
+  auto count = [](const DraftPickRecord& r, int y) {
+    return std::count_if(r.Pick.begin(), r.Pick.end(), [&](const DraftPick& p) { return p.Active && p.CurrentYear == y; });
   };
-  ProgramRun one = kvl("one", {"--seed", "7", "demo"});
-  ASSERT_EQ(one.status, 0) << one.out << one.err;
-  EXPECT_NE(one.out.find("Demo league: 24 teams, 672 players"), std::string::npos) << one.out;
-  EXPECT_NE(one.out.find((dir.path() / "one" / "Demo.lge").string()), std::string::npos) << one.out;
-  ASSERT_EQ(kvl("two", {"demo", "--seed", "7"}).status, 0);
-  EXPECT_EQ(SnapshotDir(dir.path() / "one", "Demo."), SnapshotDir(dir.path() / "two", "Demo."));
-  ProgramRun info = kvl("one", {"info"});
-  ASSERT_EQ(info.status, 0) << info.out << info.err;
-  EXPECT_NE(info.out.find("Teams: 24"), std::string::npos) << info.out;
-  EXPECT_EQ(info.out.find("invalid rosters"), std::string::npos) << info.out;
-  EXPECT_EQ(kvl("one", {"demo", "--teams", "51"}).status, 2) << "a usage error";
+  for (int t = 0; t < teams; ++t)
+    for (int year = 0; year < kPickYears; ++year)
+      EXPECT_EQ(count(ReadDraftPicks(after.state, t), year),
+                year + 1 < kPickYears ? count(ReadDraftPicks(before.state, t), year + 1) : kPickRounds)
+          << "team " << t;
+  const std::string page = ReadAll(lg.home / "Transfer" / "DemoReratedEntryDraft.html");
+  EXPECT_NE(page.find("<H3>Round " + std::to_string(rounds) + "</H3>"), std::string::npos) << page.substr(0, 200);
+
+  for (auto args : std::vector<std::vector<std::string>>{{"--yes", "align", "add", "1", "1", "Newport"},
+                                                        {"--yes", "align", "expansion", "Newport"},
+                                                        {"--yes", "make-schedule"},  // an empty expansion team
+                                                        {"--yes", "expansion-draft", "--auto", "--output"},
+                                                        {"--yes", "make-schedule"}})
+    lg.kvl(args);
+  EXPECT_TRUE(fs::exists(lg.home / "Transfer" / "DemoReratedExpansionDraft.html"));
+  lg.expectTranscript(__FILE__, "drafts.txt");
 }
 
 }  // namespace
