@@ -15,13 +15,10 @@ namespace {
 
 // One eight-team demo for the whole file, made once; each test works on a copy.
 const fs::path& DemoHome() {
-  static TempDir dir;
-  static const fs::path home = [] {
-    fs::path h = dir.path() / "home";
-    EXPECT_EQ(RunKvl({"--home", h.string(), "--seed", "7", "demo", "--teams", "8"}, dir.path() / "io").status, 0);
-    return h;
-  }();
-  return home;
+  static CliLeague demo;
+  static const bool made = demo.kvl({"--seed", "7", "demo", "--teams", "8"}).status == 0;
+  EXPECT_TRUE(made) << demo.transcript;
+  return demo.home;
 }
 
 // A copy of the demo home with `league` (DemoNext, DemoRerated, ...) opened by every run.

@@ -1,8 +1,34 @@
 #include "support/league_cli.h"
 
+#include <sys/wait.h>
+
+#include <cstdlib>
+
 #include "support/golden.h"
 
 namespace kvl::test {
+
+namespace {
+
+std::string Quote(const std::string& s) {
+  std::string q = "'";
+  for (char c : s) q += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return q + "'";
+}
+
+// Runs the program with `args` and `input` on standard input; `scratch` holds the streams.
+ProgramRun RunKvl(const std::vector<std::string>& args, const fs::path& scratch, const std::string& input) {
+  fs::create_directories(scratch);
+  auto in = scratch / "stdin", out = scratch / "stdout", err = scratch / "stderr";
+  WriteText(in, input);
+  std::string cmd = Quote(KVL_BINARY);
+  for (const auto& a : args) cmd += " " + Quote(a);
+  cmd += " <" + Quote(in.string()) + " >" + Quote(out.string()) + " 2>" + Quote(err.string());
+  int raw = std::system(cmd.c_str());
+  return {WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, ReadAll(out), ReadAll(err)};
+}
+
+}  // namespace
 
 CliLeague::CliLeague() : home(dir.path() / "home") {}
 
@@ -37,7 +63,8 @@ std::string CliLeague::plain(const std::string& text) const {
   std::string out = text;
   // The program's own path shows in its help.
   for (const std::string& from : {dir.path().string(), std::string(KVL_BINARY)})
-    for (std::size_t at; (at = out.find(from)) != std::string::npos;) out.replace(at, from.size(), from == KVL_BINARY ? "kvl" : "$TMP");
+    for (std::size_t at; (at = out.find(from)) != std::string::npos;)
+      out.replace(at, from.size(), from == KVL_BINARY ? "kvl" : "$TMP");
   return out;
 }
 

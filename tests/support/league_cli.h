@@ -1,16 +1,20 @@
 #pragma once
-// The kvl program run over a league in a temporary folder, each run kept in a
-// transcript that a test compares whole with a golden file: "$ kvl ARGS", what
-// the run printed, its standard error after "--- stderr" and its status after
-// "--- exit" when not 0. The folder's path reads $TMP and the program's kvl, so
-// the text is the same on every machine.
+// The kvl program run over a league in a temporary folder, as a user runs it,
+// each run kept in a transcript that a test compares whole with a golden file:
+// "$ kvl ARGS", what the run printed, its standard error after "--- stderr" and
+// its status after "--- exit" when not 0. The folder's path reads $TMP and the
+// program's kvl, so the text is the same on every machine.
 #include <string>
 #include <vector>
 
-#include "support/found_cli.h"
 #include "support/league_fixture.h"
 
 namespace kvl::test {
+
+struct ProgramRun {
+  int status = -1;  // the exit status
+  std::string out, err;
+};
 
 struct CliLeague {
   // An empty home: runs open the last league the program loaded.
