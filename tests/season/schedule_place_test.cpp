@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <set>
-
-#include "season/schedule_alignment.h"
 #include "season/schedule_allot.h"
 #include "season/schedule_file.h"
 #include "season/schedule_place.h"
@@ -141,44 +138,6 @@ TEST(PlaceGame, NeedsAGameLeftAtThatHostAndTwoFreeTeamsAndBooksItsRecord) {
   ASSERT_EQ(pl.records.size(), 1u);
   EXPECT_EQ(std::tuple(pl.records[0].HomeTeam, pl.records[0].AwayTeam, pl.records[0].GameNumber), std::tuple(2, 0, 1));
   EXPECT_EQ(pl.gamesPlayed, 1);
-}
-
-// A whole season placed from the demo league's allotment: each day made has
-// every team at most once, and the games used up are the games allotted.
-TEST(GameDayMaker, PlacesAWholeSeasonWithoutATeamTwiceInADay) {
-  test::Harness h;
-  test::AlignInMemory(h.state, {{6, 6}, {6, 6}});
-  ScheduleParams p = DefaultScheduleParams(24);
-  p.GPTeam = 66;
-  ScheduleMatrices m;
-  AllotGameLog log(h.home, 0);
-  ASSERT_TRUE(AllotGames(h.state, p, m, log));
-  for (std::uint64_t seed = 1; seed < 40; ++seed) {
-    ScheduleMatrices work = m;
-    Rnd rnd(seed);
-    i16 placed = 0;
-    std::vector<ScheduleRecord> games;
-    GameDayMaker mk(work, p, 24, rnd, placed, [&](int, const ScheduleRecord& r) { games.push_back(r); });
-    mk.Start();
-    bool stuck = false;
-    while (placed != 24 * 33 && !stuck) {
-      std::size_t first = games.size();
-      stuck = mk.MakeGameDay() == 0;
-      std::set<int> today;
-      for (std::size_t k = first; k < games.size(); ++k) {
-        EXPECT_TRUE(today.insert(games[k].HomeTeam).second);
-        EXPECT_TRUE(today.insert(games[k].AwayTeam).second);
-      }
-    }
-    if (stuck) continue;
-    for (int a = 0; a < 24; ++a) {
-      EXPECT_EQ(work.TotalGP[a], 66);
-      EXPECT_EQ(work.HomeGP[a], 33);
-      for (int b = 0; b < 24; ++b) EXPECT_EQ(work.Matchups(a, b), 0);
-    }
-    return;
-  }
-  FAIL() << "no seed placed a whole season";
 }
 
 TEST(GameDays, RunUntilATeamComesRoundAgain) {
