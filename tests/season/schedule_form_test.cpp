@@ -158,7 +158,9 @@ TEST(EarlierSchedule, StallsOnAFractionalTotalAndStopsOnANegativeDraw) {
   EXPECT_THROW(negative.cmdSchedule(), KvlError);
 }
 
-TEST(ScheduleForm, MinimumsRerunTheSuggestion) {
+// A minimum reruns the suggestion; the exhibition box marks the league changed
+// only when it changes.
+TEST(ScheduleForm, MinimumsRerunTheSuggestionAndTheExhibitionBox) {
   FormLeague lg;
   ScheduleForm form(lg.h.state);
   form.setParam(ScheduleParam::GPTeam, 80);
@@ -166,6 +168,10 @@ TEST(ScheduleForm, MinimumsRerunTheSuggestion) {
   EXPECT_EQ(form.params().GPTeam, 56);
   form.setParam(ScheduleParam::GPDay, 7);
   EXPECT_EQ(form.params().GPTeam, 56);
+  form.chkExhibition(false);
+  EXPECT_FALSE(lg.h.state.Dirty) << "unchanged";
+  form.chkExhibition(true);
+  EXPECT_TRUE(lg.h.state.league.Exhibition && lg.h.state.Dirty);
 }
 
 TEST(ScheduleForm, TellsWhenATeamHasNoDivision) {
