@@ -113,7 +113,8 @@ TEST(Playoffs, RefusedBeforeAnythingIsWritten) {
   }
 }
 
-TEST(SeriesWin, EndsAtExactlyFourAndStrikesTheGamesLeft) {
+// (That the games left are struck is checked over a whole year played by kvl.)
+TEST(SeriesWin, EndsAtExactlyFour) {
   Bracket b(2);
   LeagueState& s = b.h.state;
   CreatePlayoffSchedule(s);
@@ -128,10 +129,6 @@ TEST(SeriesWin, EndsAtExactlyFourAndStrikesTheGamesLeft) {
   SeriesWin(s, other, host);
   EXPECT_EQ(s.Playoff.AwayWins[i], 3) << "a decided series takes no more results";
   EXPECT_EQ(EndPlayoffDay(s), PlayoffProgress::RoundGoesOn) << "the other series is open";
-  for (const ScheduleRecord& r : ReadSchedule(s.swap(swp::Schedule))) {
-    const bool ours = (r.HomeTeam == host && r.AwayTeam == other) || (r.HomeTeam == other && r.AwayTeam == host);
-    EXPECT_EQ(r.Played != 0, ours) << "only the decided series' games are struck";
-  }
 }
 
 TEST(GrowthClass, RangesByAge) {
@@ -180,20 +177,6 @@ TEST(RerateOne, TheOldestLoseMostButNeverBelowTheFloor) {
     EXPECT_LE(p.rating(kInt), 30);
   }
   EXPECT_EQ(lowest, 25);
-}
-
-TEST(AgeLeague, OneYearOlderAndContractsRunDownButNotBelowZero) {
-  Harness h;
-  h.load(AlignedLeague({{2, 2}, {2, 2}}));
-  loadteam(h.state, 0, 0);
-  h.state.player(0, 0).Contract = 0;
-  h.state.player(0, 1).Contract = 3;
-  const int age = h.state.player(0, 1).Age;
-  SaveTeam(h.state, 0, 0);
-  AgeLeague(h.state);
-  loadteam(h.state, 0, 0);
-  EXPECT_EQ(std::tuple(h.state.player(0, 0).Contract, h.state.player(0, 1).Contract, h.state.player(0, 1).Age),
-            std::tuple(0, 2, age + 1));
 }
 
 }  // namespace

@@ -1,12 +1,8 @@
 // Old schedule files converted on load, and the schedule reviewed by game day.
 #include "season/schedule_file.h"
 
-#include <gtest/gtest.h>
-
-#include "league/league_files.h"
 #include "season/schedule_review.h"
-#include "support/league_fixture.h"
-#include "util/record_file.h"
+#include "support/kvl_test.h"
 
 namespace kvl {
 namespace {
@@ -27,17 +23,6 @@ struct OldScheduleLeague {
   std::string path;
 };
 
-template <class R>
-Bytes Concat(const std::vector<R>& records, std::size_t padTo = 0) {
-  Bytes out;
-  for (const auto& r : records) {
-    Bytes b = EncodeRecord(r);
-    out.insert(out.end(), b.begin(), b.end());
-  }
-  if (out.size() < padTo) out.resize(padTo, 0);
-  return out;
-}
-
 i16 PlayedMark(u8 hs, u8 as) { return (hs || as) ? kTrue : kFalse; }
 
 // Day fields 100 + n and 200 + n, to see where each goes.
@@ -50,8 +35,9 @@ ScheduleRecord13 Old13(u8 home, u8 away, i16 number, u8 hs = 0, u8 as = 0, u8 ot
 ScheduleRecord6 Old6(u8 home, u8 away, u8 hs = 0, u8 as = 0) { return {home, hs, away, as, PlayedMark(hs, as)}; }
 
 TEST(ConvertSchedCheck, ThirteenByteGamesKeepTheirNumbersAndDays) {
-  // Padded out to the blank block a new league is given.
-  OldScheduleLeague lg(Concat(std::vector{Old13(1, 0, 1, 4, 2), Old13(3, 2, 2, 3, 3, 1), Old13(5, 4, 3, 2, 2)}, 4642));
+  Bytes scd = EncodeRecords(std::vector{Old13(1, 0, 1, 4, 2), Old13(3, 2, 2, 3, 3, 1), Old13(5, 4, 3, 2, 2)});
+  scd.resize(4642);  // padded out to the blank block a new league is given
+  OldScheduleLeague lg(scd);
   std::vector<ScheduleRecord> g = lg.converted();
   ASSERT_EQ(g.size(), 3u);
   EXPECT_EQ(std::tuple(g[0].HomeTeam, g[0].AwayTeam, g[0].HomeScore, g[0].AwayScore), std::tuple(1, 0, 4, 2));
@@ -62,7 +48,8 @@ TEST(ConvertSchedCheck, ThirteenByteGamesKeepTheirNumbersAndDays) {
 }
 
 TEST(ConvertSchedCheck, SixByteGamesAreNumberedAndGivenDays) {
-  OldScheduleLeague lg(Concat(std::vector{Old6(0, 1, 3, 3), Old6(2, 3, 1, 0), Old6(1, 4), Old6(5, 6), Old6(0, 2)}));
+  OldScheduleLeague lg(
+      EncodeRecords(std::vector{Old6(0, 1, 3, 3), Old6(2, 3, 1, 0), Old6(1, 4), Old6(5, 6), Old6(0, 2)}));
   std::vector<ScheduleRecord> g = lg.converted();
   ASSERT_EQ(g.size(), 5u);
   // Team 1 comes round again at the third game: a new day starts there.
@@ -85,7 +72,7 @@ TEST(ConvertSchedCheck, LeavesAloneWhatNeedsNoConversion) {
   {
     // A league with a current schedule keeps it.
     Bytes scx = EncodeRecord(ScheduleRecord{.HomeTeam = 7, .AwayTeam = 6, .GameNumber = 1});
-    OldScheduleLeague lg(Concat(std::vector{Old6(0, 1)}), &scx);
+    OldScheduleLeague lg(EncodeRecords(std::vector{Old6(0, 1)}), &scx);
     std::vector<ScheduleRecord> g = lg.converted();
     ASSERT_EQ(g.size(), 1u);
     EXPECT_EQ(g[0].HomeTeam, 7);

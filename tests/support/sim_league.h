@@ -11,15 +11,11 @@ namespace kvl::test {
 // Roster slots of the standard league: C 0-3, LW 4-7, RW 8-11, D 12-18, G 19-21.
 constexpr int kFirstLW = 4, kFirstRW = 8, kFirstD = 12, kFirstG = 19;
 
-// Fills `lines` for a standard roster: four even-strength lines, both power-play
-// and penalty-kill units, the starter in slot 19 and two spare skaters.
-void FillStandardLines(LineTable& lines);
 // StandardLeague with D 7 scratched, the second goalie dressed and lines set.
 LeaguePlan SimLeague(int teams, unsigned seed = 1);
 
-// Writes the loaded league's schedule of (away, home) games, numbered from 1, and marks it made.
-void WriteSchedule(Harness& h, const std::vector<std::pair<int, int>>& games);
-// The four-team SimLeague loaded with master seed 7 and this schedule.
+// The four-team SimLeague loaded with master seed 7 and this schedule of (away,
+// home) games, numbered from 1 and marked made.
 struct ScheduledLeague {
   explicit ScheduledLeague(const std::vector<std::pair<int, int>>& games, const LeaguePlan& plan = SimLeague(4));
   std::string page(const std::string& name) const;  // Transfer/test<name>
