@@ -72,12 +72,8 @@ TEST(TradeValue, PlayersByAgeRatingAndSalary) {
 }
 
 TEST(TradeValue, CashAsTheListShowsIt) {
-  struct Row {
-    const char* text;
-    i32 amount;
-  };
-  const Row rows[] = {{"", 0}, {"0", 0}, {"$1,500", 1500}, {"$2,345,678", 2345678}};
-  for (const Row& r : rows) EXPECT_EQ(CashShown(r.text), r.amount) << r.text;
+  for (auto [text, amount] : {std::pair{"", 0}, {"0", 0}, {"$1,500", 1500}, {"$2,345,678", 2345678}})
+    EXPECT_EQ(CashShown(text), amount) << text;
 }
 
 // A standard league of four with picks, prospects and money; office on teams 0 and 1.
