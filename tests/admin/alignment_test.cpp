@@ -37,27 +37,19 @@ TEST_F(Align, AddPlacesANewBlankTeamLastAndNothingOnAnEmptyOrCancelledName) {
   EXPECT_EQ(ReadFileBytes(h.state.swap(swp::Priority)), (Bytes{0, 1, 2, 3, 4}));
 }
 
+// StandardLeague deals teams round the four divisions, so 40 fill all of them.
 TEST(AlignLimits, AddsBeyondTheLimitsAreToldBeforeTheNameIsAsked) {
-  struct Case {
-    int conf, div, teams;
-    const char* text;
-  } cases[] = {
-      // StandardLeague deals teams round the four divisions, so 40 fill all of them.
-      {0, 0, 40, "DIV 1 already holds 10 teams, the most a division can."},
-      {1, 2, 4, "CONF 2 has 2 divisions: there is no division 3."},
-  };
-  for (const auto& c : cases) {
-    Harness h;
-    h.load(StandardLeague(c.teams));
-    h.ui.push("Never");
-    League before = h.state.league;
-    EXPECT_THROW(AlignLeague(h.state).cmdAdd(c.conf, c.div), Refused);
-    EXPECT_TRUE(h.ui.told(c.text, "Align League")) << h.ui.calls().back().text;
-    EXPECT_EQ(EncodeRecord(h.state.league), EncodeRecord(before)) << c.text;
-    EXPECT_EQ(h.ui.pending(), 1u) << c.text;
-  }
   Harness h;
   h.load(StandardLeague(40));
+  h.ui.push("Never");
+  const League before = h.state.league;
+  for (auto [conf, div, text] : {std::tuple{0, 0, "DIV 1 already holds 10 teams, the most a division can."},
+                                 {1, 2, "CONF 2 has 2 divisions: there is no division 3."}}) {
+    EXPECT_THROW(AlignLeague(h.state).cmdAdd(conf, div), Refused);
+    EXPECT_TRUE(h.ui.told(text, "Align League")) << h.ui.calls().back().text;
+  }
+  EXPECT_EQ(EncodeRecord(h.state.league), EncodeRecord(before));
+  EXPECT_EQ(h.ui.pending(), 1u) << "the name is never asked";
   EXPECT_THROW(AlignLeague(h.state).MoveTeam(1, 0, 0), Refused) << "into a full division";
   EXPECT_EQ(h.state.team(1).Div, 1);
   for (int conf = 0; conf < 2; ++conf) AlignLeague(h.state).ChangeDivisions(conf, 3);
@@ -130,11 +122,6 @@ std::vector<R> Records(const fs::path& p) {
   return out;
 }
 
-template <class R>
-void PutAll(const fs::path& p, const std::vector<R>& records) {
-  WriteFileAtomic(p, EncodeRecords(records));
-}
-
 WaiverRecord Waived(const char* name, int owner, int holder, int claimedBy) {
   WaiverRecord w;
   w.Name.set(name);
@@ -177,21 +164,22 @@ struct DeleteTeam : ::testing::Test {
     picks[4].Pick[20] = DraftPick{};                                // a gap left by a trade
     futures[1].OwnerTeam[1][3] = 2, futures[1].Amount[1][3] = 500;  // a year owed to the team going
     futures[1].OwnerTeam[2][3] = 5, futures[1].Amount[2][3] = 600;
-    PutAll(h.state.swap(swp::Picks), picks);
-    PutAll(h.state.swap(swp::Futures), futures);
-    PutAll(h.state.swap(swp::Schedule), games);
-    WriteFileAtomic(h.state.swap(swp::Priority), kPriority);
+    auto put = [&](const char* file, const Bytes& bytes) { WriteFileAtomic(h.state.swap(file), bytes); };
+    put(swp::Picks, EncodeRecords(picks));
+    put(swp::Futures, EncodeRecords(futures));
+    put(swp::Schedule, EncodeRecords(games));
+    put(swp::Priority, kPriority);
     h.state.league.GamesPlayed = 7;
     h.state.league.LeagueGames = static_cast<i16>(games.size());
-    PutAll(h.state.swap(swp::Waivers), std::vector<WaiverRecord>{Waived("T2 C 1", 2, 2, 255), Waived("T2 C 2", 2, 4, 4),
-                                                                 Waived("T5 C 1", 5, 5, 255)});
+    put(swp::Waivers, EncodeRecords(std::vector<WaiverRecord>{Waived("T2 C 1", 2, 2, 255), Waived("T2 C 2", 2, 4, 4),
+                                                              Waived("T5 C 1", 5, 5, 255)}));
     WriteEmailLines(h.state.swap(swp::Email), mail);
-    PutAll(h.state.swap(swp::Career), std::vector<CareerRecord>{{2, MakePlayer("Left Two", kCentre, 50)},
-                                                                {5, MakePlayer("Left Five", kCentre, 50)}});
-    PutAll(h.state.swap(swp::Database), std::vector<DbRecord>{{-1, MakePlayer("T2 C 1", kCentre, 50)},
-                                                              {-1, MakePlayer("T3 C 1", kCentre, 50)},
-                                                              {0, MakePlayer("Nobody Yet", kCentre, 50)},
-                                                              {-1, MakePlayer("T2 D 1", kCentre, 50)}});
+    put(swp::Career, EncodeRecords(std::vector<CareerRecord>{{2, MakePlayer("Left Two", kCentre, 50)},
+                                                             {5, MakePlayer("Left Five", kCentre, 50)}}));
+    std::vector<DbRecord> db;
+    for (const char* name : {"T2 C 1", "T3 C 1", "Nobody Yet", "T2 D 1"})
+      db.push_back({static_cast<i16>(name[0] == 'T' ? -1 : 0), MakePlayer(name, kCentre, 50)});
+    put(swp::Database, EncodeRecords(db));
   }
   Harness h;
 };

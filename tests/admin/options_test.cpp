@@ -97,42 +97,31 @@ TEST_F(OptionsForm, PageTicksAndFarmStreaksAreStoredAsOneAndPathsAreCutAtTwenty)
   EXPECT_TRUE(h.state.Dirty);
 }
 
-TEST(OptionsFormPlayoffs, SizeIsNotChangedOnceThePlayoffsRunAndTheTreeSelectsIt) {
-  for (bool playoffs : {false, true}) {
-    Harness h;
-    h.load(StandardLeague(4));
-    h.state.league.InPlayoffs = ToBool16(playoffs);
-    Options o(h.state);
-    o.set("PlayoffSize", "2");
-    o.cmdApply();
-    EXPECT_EQ(h.state.league.PlayoffSize, playoffs ? 0 : 2) << playoffs;
-    if (playoffs) continue;
-    o.set("PlayoffTree", "0");
-    EXPECT_EQ(o.controls().Option4, 1);
-    o.set("PlayoffTree", "1");
-    o.cmdApply();
-    EXPECT_EQ(h.state.league.PlayoffSize, 2);
+TEST_F(OptionsForm, BadSettingsAreToldAndLeaveTheFormUnchanged) {
+  Options o = Open();
+  for (auto [name, value, told] : {
+           std::tuple{"GoalsLevel", "0", "GoalsLevel takes a whole number from 1 to 9, not \"0\"."},
+           {"PointSystem", "1.5", "PointSystem takes a whole number from 0 to 3, not \"1.5\"."},
+           {"PlayoffSize", "", "PlayoffSize takes a whole number from 0 to 2, not \"\"."},
+           {"OptMoney", "maybe", "OptMoney is on or off, not \"maybe\"."},
+           {"Overtime", "on", "There is no option \"Overtime\"; the command options lists them all."}}) {
+    EXPECT_THROW(o.set(name, value), Refused) << name;
+    EXPECT_TRUE(h.ui.told(told, "Options")) << h.ui.calls().back().text;
+    EXPECT_FALSE(o.dirty()) << name;
   }
 }
 
-TEST_F(OptionsForm, BadSettingsAreToldAndLeaveTheFormUnchanged) {
-  struct Case {
-    const char* name;
-    const char* value;
-    const char* told;
-  } cases[] = {
-      {"GoalsLevel", "0", "GoalsLevel takes a whole number from 1 to 9, not \"0\"."},
-      {"PointSystem", "1.5", "PointSystem takes a whole number from 0 to 3, not \"1.5\"."},
-      {"PlayoffSize", "", "PlayoffSize takes a whole number from 0 to 2, not \"\"."},
-      {"OptMoney", "maybe", "OptMoney is on or off, not \"maybe\"."},
-      {"Overtime", "on", "There is no option \"Overtime\"; the command options lists them all."},
-  };
+TEST_F(OptionsForm, TheTreeSelectsThePlayoffSizeWhichIsNotChangedOnceThePlayoffsRun) {
   Options o = Open();
-  for (const auto& c : cases) {
-    EXPECT_THROW(o.set(c.name, c.value), Refused) << c.name;
-    EXPECT_TRUE(h.ui.told(c.told, "Options")) << h.ui.calls().back().text;
-    EXPECT_FALSE(o.dirty()) << c.name;
-  }
+  o.set("PlayoffTree", "0");
+  EXPECT_EQ(o.controls().Option4, 1);
+  o.set("PlayoffTree", "1");
+  o.cmdApply();
+  EXPECT_EQ(h.state.league.PlayoffSize, 2);
+  h.state.league.InPlayoffs = kTrue;
+  o.set("PlayoffSize", "0");
+  o.cmdApply();
+  EXPECT_EQ(h.state.league.PlayoffSize, 2);
 }
 
 TEST(OptionsFormClose, AsksOnlyWithChangesAndAppliesOnYes) {

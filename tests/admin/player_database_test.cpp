@@ -59,11 +59,8 @@ TEST_F(PlayerDatabaseTest, DeletingKeepsEveryOtherRecordByteForByte) {
 }
 
 TEST_F(PlayerDatabaseTest, FieldsTakeOnlyValuesThatFitAndUpdateWritesThem) {
-  struct Case {
-    const char* field;
-    const char* text;
-    const char* shown;  // in the fields afterwards; nullptr: refused, nothing changes
-  } cases[] = {
+  // What the fields show afterwards; nullptr: refused, nothing changes.
+  const std::tuple<const char*, const char*, const char*> cases[] = {
       {"Name", "Zed Zulu", "Name Zed Zulu\n"},
       {"Birthplace", "Finland", "Birthplace Fin\n"},
       {"Hand", "R", "Hand R "},
@@ -83,11 +80,11 @@ TEST_F(PlayerDatabaseTest, FieldsTakeOnlyValuesThatFitAndUpdateWritesThem) {
   f.cmdUpdate();  // nothing selected
   EXPECT_EQ(ReadFileBytes(file), untouched);
   f.Select(1);
-  for (const auto& c : cases) {
+  for (auto [field, text, shown] : cases) {
     const std::string before = f.FieldsText();
-    EXPECT_EQ(f.SetField(c.field, c.text), c.shown != nullptr) << c.field << "=" << c.text;
+    EXPECT_EQ(f.SetField(field, text), shown != nullptr) << field << "=" << text;
     const std::string after = f.FieldsText();
-    EXPECT_TRUE(c.shown ? after.find(c.shown) != std::string::npos : after == before) << c.text << "\n" << after;
+    EXPECT_TRUE(shown ? after.find(shown) != std::string::npos : after == before) << text << "\n" << after;
   }
   f.cmdUpdate();
   const Player p = frmPlayerDB(h.state, file).records()[1].P;
