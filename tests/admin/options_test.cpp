@@ -94,7 +94,6 @@ TEST_F(OptionsForm, PageTicksAndFarmStreaksAreStoredAsOneAndPathsAreCutAtTwenty)
   EXPECT_EQ((std::array{lg.CheckFlags[16], lg.CheckFlags[1], lg.CheckFlags[2]}), (std::array<u8, 3>{1, 0, 1}));
   EXPECT_EQ(lg.OutputDir.raw(), "/home/commissioner/l");
   EXPECT_EQ(lg.RootDir.raw(), "/kvl                ");
-  EXPECT_TRUE(h.state.Dirty);
 }
 
 TEST_F(OptionsForm, BadSettingsAreToldAndLeaveTheFormUnchanged) {

@@ -55,14 +55,12 @@ TEST_F(CoachTest, ListEditsClampAndAreKeptOnlyOnYes) {
 TEST_F(CoachTest, CreatePromptsUntilTheValuesFitAndStoresTheSalaryDoubledAndDeleteAsksThenBlanks) {
   for (const char* a : {"New Guy", "101", "100", "49", "60", "70", "80", "40000", "50000"}) h.ui.push(a);
   CoachList list(h.state);
-  h.state.Dirty = false;
   ASSERT_TRUE(list.cmdCreate());
   Coach c = onFile(5);
   EXPECT_EQ(c.Name.str(), "New Guy");
   EXPECT_EQ(c.OF, 100) << "the prompt admits 100";
   EXPECT_EQ((std::array{int(c.DF), int(c.EX), int(c.LD), c.Salary}), (std::array{60, 70, 80, 100000}));
   EXPECT_EQ(c.Team, Coach::kNoTeam);
-  EXPECT_TRUE(h.state.Dirty);
   EXPECT_EQ(h.ui.callsOf("prompt").size(), 9u) << "each value out of range is asked again";
   for (const char* a : {"Quitter", "70", "<cancel>"}) h.ui.push(a);
   EXPECT_FALSE(list.cmdCreate());

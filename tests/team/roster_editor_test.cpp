@@ -126,7 +126,6 @@ TEST_F(RosterEditorTest, LeavingWithYesStoresTheListsAndClearsTheLinesOfTheUndre
                         team.Lines.at(1, 0), team.Lines.at(2, 0)}),
             (std::array<u8, 6>{kNoPlayer, kNoPlayer, kNoPlayer, 0, kNoPlayer, 2}));
   EXPECT_EQ(team.LinesOK, kFalse);
-  EXPECT_TRUE(h.state.Dirty);
 }
 
 TEST_F(RosterEditorTest, ReleasedPlayersGoToTheFreeAgentsOnce) {

@@ -253,7 +253,6 @@ TEST_F(TradeFixture, ExecutionMarksPlayersWithGamesWritesTheLogAndTheHistoryAndC
   EXPECT_EQ((std::array{office.lstProspects(0).size(), office.lstProspects(1).size()}),
             (std::array<std::size_t, 2>{0, 2}));
   EXPECT_EQ(office.txtCash(0), "0");
-  EXPECT_TRUE(h.state.Dirty);
   const std::string text = "To Team1: " + a0.Name.str() + ", " + a1.Name.str() +
                            ", Prospect 0, 2027 Rnd 2 T00, $250,000<BR>\r\nTo Team0: " + b0.Name.str() +
                            "<BR>\r\n<BR>\r\n";
