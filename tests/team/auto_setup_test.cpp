@@ -104,11 +104,8 @@ TEST(LineTableTest, CompletenessLooksAtUsedSlotsOnly) {
   t.cells.fill(3);
   ForceUnusedSlots(t);
   EXPECT_TRUE(LinesComplete(t)) << "a player twice is no fault here";
-  EXPECT_EQ(t.at(6, 4), kNoPlayer);
-  EXPECT_EQ(t.at(12, 4), kNoPlayer);
-  EXPECT_EQ(t.at(10, 3), kNoPlayer);
-  EXPECT_EQ(t.at(12, 3), kNoPlayer);
-  EXPECT_EQ(t.at(9, 3), 3);
+  EXPECT_EQ((std::array{t.at(6, 4), t.at(12, 4), t.at(10, 3), t.at(12, 3), t.at(9, 3)}),
+            (std::array<u8, 5>{kNoPlayer, kNoPlayer, kNoPlayer, kNoPlayer, 3}));
   for (auto [row, slot] : {std::pair{0, 4}, {7, 3}, {11, 2}, {12, 2}, {12, 0}}) {
     LineTable gap = t;
     gap.at(row, slot) = kNoPlayer;
@@ -120,10 +117,8 @@ TEST(LineTableTest, RemovingAPlayerLeavesTheGoalieRowsLastSlot) {
   LineTable t;
   t.cells.fill(7);
   EXPECT_TRUE(RemoveFromLines(t, 7));
-  EXPECT_EQ(t.at(0, 0), kNoPlayer);
-  EXPECT_EQ(t.at(11, 4), kNoPlayer);
-  EXPECT_EQ(t.at(12, 3), kNoPlayer);
-  EXPECT_EQ(t.at(12, 4), 7);
+  EXPECT_EQ((std::array{t.at(0, 0), t.at(11, 4), t.at(12, 3), t.at(12, 4)}),
+            (std::array<u8, 4>{kNoPlayer, kNoPlayer, kNoPlayer, 7}));
   EXPECT_FALSE(RemoveFromLines(t, 8));
 }
 
@@ -144,9 +139,8 @@ TEST(LineTransferTest, StoresTheTableWithUnusedSlotsEmptiedAndSaves) {
   const Team& t = h.state.team(1);
   EXPECT_EQ(t.LinesOK, kTrue);
   EXPECT_TRUE(h.state.Dirty);
-  EXPECT_EQ(t.Lines.at(8, 4), kNoPlayer);
-  EXPECT_EQ(t.Lines.at(12, 3), kNoPlayer);
-  EXPECT_EQ(t.Lines.at(12, 2), 4);
+  EXPECT_EQ((std::array{t.Lines.at(8, 4), t.Lines.at(12, 3), t.Lines.at(12, 2)}),
+            (std::array<u8, 3>{kNoPlayer, kNoPlayer, 4}));
   Team saved = RecordFile(h.state.swap(swp::Teams), Team::kSize).getRecord<Team>(2);
   EXPECT_EQ(saved.Lines, t.Lines);
 }
@@ -199,13 +193,12 @@ TEST_F(AutoRosterTest, InjuredPlayersAreScratchedAndInjuredMinorsComeUp) {
   r[1].Condition = 5;
   PutRoster(h.state, 0, r);
   maker.AutoRoster(false);
-  EXPECT_EQ(maker.TempStatus[0], 103);
-  EXPECT_EQ(maker.PrevStatus[0], 203);
-  EXPECT_EQ(at(0).Status, 203) << "a pro player's stored status waits for TransferBuffer";
-  EXPECT_EQ(maker.TempStatus[1], 102);
-  EXPECT_EQ(at(1).Status, 102) << "the minor leaguer's record comes onto the pro roster at once";
-  EXPECT_EQ(at(1).Condition, 100);
-  EXPECT_EQ(maker.PrevStatus[1], 102);
+  // A pro player's stored status waits for TransferBuffer; the minor leaguer's record comes onto the
+  // pro roster at once, rested.
+  EXPECT_EQ((std::array{int(maker.TempStatus[0]), int(maker.PrevStatus[0]), int(at(0).Status)}),
+            (std::array{103, 203, 203}));
+  EXPECT_EQ((std::array{int(maker.TempStatus[1]), int(maker.PrevStatus[1]), int(at(1).Status), int(at(1).Condition)}),
+            (std::array{102, 102, 102, 100}));
   EXPECT_EQ(dressed(), 20);
 }
 

@@ -215,13 +215,11 @@ TEST_F(TradeFixture, LinesFilesGoWithProPlayersAndFuturesFollowThePlayer) {
   // Team 0 lost a pro player; a minor leaguer's team keeps its lines file.
   EXPECT_EQ((std::array{fs::exists(lns(0)), fs::exists(lns(1))}), (std::array{false, true}));
   EXPECT_EQ(h.state.team(0).LinesOK + h.state.team(1).LinesOK, 0);
-  // He took the minor leaguer's freed slot.
-  const ContractFuture moved =
-      RecordFile(h.state.swap(swp::Futures), ContractFuture::kSize).getRecord<ContractFuture>(2);
-  EXPECT_EQ(moved.Value[static_cast<std::size_t>(minor)], 7);
-  EXPECT_EQ(moved.OwnerTeam[0][static_cast<std::size_t>(minor)], 1) << "the old team becomes the new";
-  EXPECT_EQ(moved.OwnerTeam[1][static_cast<std::size_t>(minor)], 3) << "another team's entry stays";
-  EXPECT_EQ(moved.Amount[4][static_cast<std::size_t>(minor)], 5000);
+  // He took the minor leaguer's freed slot; the old team becomes the new, another team's entry stays.
+  const ContractFuture f = RecordFile(h.state.swap(swp::Futures), ContractFuture::kSize).getRecord<ContractFuture>(2);
+  const auto m = static_cast<std::size_t>(minor);
+  EXPECT_EQ((std::array{int(f.Value[m]), int(f.OwnerTeam[0][m]), int(f.OwnerTeam[1][m]), int(f.Amount[4][m])}),
+            (std::array{7, 1, 3, 5000}));
 }
 
 std::vector<CareerRecord> Career(LeagueState& s) {
@@ -262,15 +260,9 @@ TEST_F(TradeFixture, ExecutionMarksPlayersWithGamesWritesTheLogAndTheHistoryAndC
 
 TEST_F(TradeFixture, TradeSplitKeepsEachTeamsShareOfTheSeason) {
   Player p = test::MakePlayer("Much Traveled", kCentre, 60);
-  p.GP = 30;
-  p.G = 10;
-  p.Hits = 40;
-  p.Plus = -3;
+  p.GP = 30, p.G = 10, p.Hits = 40, p.Plus = -3;
   CareerRecord first{2, p};
-  first.P.GP = 12;
-  first.P.G = 4;
-  first.P.Hits = 15;
-  first.P.Plus = 2;
+  first.P.GP = 12, first.P.G = 4, first.P.Hits = 15, first.P.Plus = 2;
   CareerRecord other{3, test::MakePlayer("Someone Else", kCentre, 60)};
   other.P.GP = 50;
   {
@@ -283,8 +275,7 @@ TEST_F(TradeFixture, TradeSplitKeepsEachTeamsShareOfTheSeason) {
   ASSERT_EQ(v.size(), 3u);
   EXPECT_EQ((std::array{int(v[2].Team), int(v[2].P.GP), int(v[2].P.G), int(v[2].P.Hits), int(v[2].P.Plus)}),
             (std::array{1, 18, 6, 25, -5}));
-  p.GP = 35;
-  p.G = 11;
+  p.GP = 35, p.G = 11;
   TradeSplit(h.state, p, 2);  // back at team 2 for 5 more: added to its line in place
   v = Career(h.state);
   ASSERT_EQ(v.size(), 3u);
