@@ -2,8 +2,6 @@
 // ShotsLevel and OptMoney set and saved, and a slider out of range, are the e2e tests'.
 #include "admin/options.h"
 
-#include <fstream>
-
 #include "admin/options_lines_directory.h"
 #include "support/golden.h"
 #include "support/kvl_test.h"
