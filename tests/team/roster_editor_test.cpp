@@ -32,9 +32,11 @@ TEST_F(RosterEditorTest, CaptionCallsARosterCompleteOnlyWhenItFitsTheRules) {
     std::array<int, 5> dressed;
     const char* caption;
   } cases[] = {
+      // Twenty dressed with one short position each (D, C, LW, RW, a third goalie), then 17 and 21.
       {{4, 4, 3, 7, 2}, "Roster Complete"},  {{3, 3, 3, 9, 2}, "Roster Complete"},
       {{5, 4, 4, 5, 2}, "20 Total Players"}, {{2, 4, 4, 8, 2}, "20 Total Players"},
-      {{4, 4, 4, 5, 3}, "20 Total Players"}, {{3, 3, 3, 6, 2}, "17 Total Players"},
+      {{4, 2, 4, 8, 2}, "20 Total Players"}, {{4, 4, 2, 8, 2}, "20 Total Players"},
+      {{4, 4, 3, 6, 3}, "20 Total Players"}, {{3, 3, 3, 6, 2}, "17 Total Players"},
       {{4, 4, 4, 7, 2}, "21 Total Players"},
   };
   for (const auto& c : cases) {
