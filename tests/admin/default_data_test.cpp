@@ -1,17 +1,15 @@
 #include "admin/default_data.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <set>
 
 #include "console/startup.h"
-#include "support/league_fixture.h"
-#include "util/record_file.h"
+#include "support/kvl_test.h"
 
 namespace kvl {
 namespace {
 
+// Seeding a home folder from these files is the start-up tests'.
 TEST(DefaultData, TheGeneratorRemakesTheCommittedFilesByteForByte) {
   test::TempDir dir;
   WriteDefaultFiles(dir.path(), true);
@@ -22,17 +20,6 @@ TEST(DefaultData, TheGeneratorRemakesTheCommittedFilesByteForByte) {
     auto diff = std::mismatch(made.begin(), made.end(), kept.begin());
     EXPECT_TRUE(diff.first == made.end()) << name << " differs at byte " << (diff.first - made.begin());
   }
-}
-
-TEST(DefaultData, AFreshHomeIsSeededAndKeepsFilesItAlreadyHas) {
-  test::TempDir dir;
-  fs::path home = dir.path() / "home";
-  fs::create_directories(home);
-  WriteFileAtomic(home / "default.drs", Bytes(88, 1));
-  PrepareHomeFolder(home);
-  EXPECT_EQ(ReadFileBytes(home / "default.drs"), Bytes(88, 1));
-  for (const char* name : {"default.lge", "default.coa", "inj.dtf"})
-    EXPECT_EQ(ReadFileBytes(home / name), ReadFileBytes(fs::path(KVL_DATA_DIR) / name)) << name;
 }
 
 // The generator is held to the committed files above; these are the

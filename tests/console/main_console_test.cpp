@@ -1,13 +1,10 @@
 // The console's menu as a function of the header, and its own commands: load, save, exit, rename.
+// Saving a named league and the exit question's yes and no are the e2e tests'.
 #include "console/main_console.h"
 
-#include <gtest/gtest.h>
-
 #include "console/menu.h"
-#include "league/league_files.h"
 #include "support/found_file_set.h"
-#include "support/league_fixture.h"
-#include "util/record_file.h"
+#include "support/kvl_test.h"
 
 namespace kvl::test {
 namespace {
@@ -53,157 +50,83 @@ TEST(LoadCommand, AsksToSaveThenLoads) {
     EXPECT_TRUE(t.h.ui.callsOf("tell").empty()) << "the save inside Load tells nothing";
     EXPECT_TRUE(c.dialog || (t.h.state.Dirty && t.h.state.league.LeagueName.str() == "Renamed")) << "work kept";
   }
-  TwoLeagues t;
-  t.h.state.Dirty = false;
-  MainConsole(t.h.state).LoadLeague(fs::path(t.second + ".lge"));
-  EXPECT_TRUE(t.h.ui.callsOf("ask").empty()) << "nothing to save";
-  EXPECT_EQ(t.h.state.LeaguePath, t.second);
-  EXPECT_EQ(t.h.state.numTeams(), 10);
 }
 
-TEST(SaveCommand, SavesAndTellsThePath) {
-  TwoLeagues t;
-  MainConsole(t.h.state).SaveLeague();
-  EXPECT_TRUE(t.h.ui.told(t.first + " saved", "Save League"));
-  EXPECT_EQ(StoredName(t.first), "Renamed");
-  EXPECT_FALSE(t.h.state.Dirty);
-}
-
-TEST(SaveCommand, AnUnnamedLeagueGoesThroughSaveAs) {
-  for (bool cancel : {true, false}) {
+TEST(SaveCommand, AnUnnamedLeagueGoesThroughSaveAsFromSaveAndFromExit) {
+  struct Case {
+    bool exit;  // else Save
+    bool cancel;
+  } cases[] = {{false, true}, {false, false}, {true, false}};
+  for (const auto& c : cases) {
     TwoLeagues t;
     t.h.state.LeaguePath.clear();
     std::string target = (test::LeagueDir(t.h) / "named").string();
-    t.h.ui.push(cancel ? "<cancel>" : target + ".lge");
-    MainConsole(t.h.state).SaveLeague();
+    if (c.exit) t.h.ui.push("yes");
+    t.h.ui.push(c.cancel ? "<cancel>" : target + ".lge");
+    if (c.exit)
+      MainConsole(t.h.state).Exit();
+    else
+      MainConsole(t.h.state).SaveLeague();
     EXPECT_EQ(t.h.ui.callsOf("chooseFile").size(), 1u);
-    EXPECT_EQ(t.h.ui.told(target + " saved", "Save League"), !cancel);
-    EXPECT_EQ(fs::exists(target + ".lge"), !cancel);
-    EXPECT_EQ(t.h.state.Dirty, cancel);
+    EXPECT_EQ(t.h.ui.told(target + " saved", "Save League"), !c.cancel && !c.exit) << "Exit saves silently";
+    EXPECT_EQ(fs::exists(target + ".lge") && StoredName(target) == "Renamed", !c.cancel);
+    EXPECT_EQ(t.h.state.Dirty, c.cancel);
   }
 }
 
-TEST(ExitCommand, OffersToKeepChanges) {
-  struct Case {
-    const char* name;
-    bool dirty, unnamed;
-    std::vector<std::string> answers;
-    bool saved;
-  } cases[] = {{"clean", false, false, {}, false},
-               {"yes", true, false, {"yes"}, true},
-               {"no", true, false, {"no"}, false},
-               {"unnamed, yes", true, true, {"yes", "<named>"}, true}};
-  for (const auto& c : cases) {
-    TwoLeagues t;
-    t.h.state.Dirty = c.dirty;
-    std::string target = (test::LeagueDir(t.h) / "named").string();
-    if (c.unnamed) t.h.state.LeaguePath.clear();
-    for (const auto& a : c.answers) t.h.ui.push(a == "<named>" ? target + ".lge" : a);
-    MainConsole(t.h.state).Exit();
-    EXPECT_EQ(t.h.ui.callsOf("ask").size(), c.dirty ? 1u : 0u) << c.name;
-    std::string where = c.unnamed ? target : t.first;
-    EXPECT_EQ(fs::exists(where + ".lge") && StoredName(where) == "Renamed", c.saved) << c.name;
-    EXPECT_EQ(t.h.ui.callsOf("chooseFile").size(), c.unnamed && c.saved ? 1u : 0u) << c.name;
-  }
-}
-
-TEST(RenameLeague, IsCutToTwentyFive) {
-  struct Case {
-    std::string answer;
-    std::string name;
-    bool dirty;
-  };
-  for (const Case& c :
-       {Case{"Northern League", "Northern League", true},
-        Case{"A Name Much Longer Than Twenty-Five", "A Name Much Longer Than T", true}, Case{"", "Test League", false},
-        Case{"<cancel>", "Test League", false}, Case{std::string(30, 'x'), std::string(25, 'x'), true}}) {
+// Cut to 25 characters, a name given on the command line included, is the e2e tests'.
+TEST(RenameLeague, AsksAndKeepsTheOldNameOnNothingOrCancel) {
+  for (const char* answer : {"A Name Much Longer Than Twenty-Five", "", "<cancel>"}) {
     Harness h;
     h.load(StandardLeague(8));
-    const bool given = c.answer.size() == 30;  // named on the command line: nothing is asked
-    if (given)
-      MainConsole(h.state).RenameLeague(c.answer);
-    else
-      h.ui.push(c.answer), MainConsole(h.state).RenameLeague();
-    EXPECT_EQ(h.ui.callsOf("prompt").size(), given ? 0u : 1u);
-    EXPECT_EQ(h.state.league.LeagueName.str(), c.name) << c.answer;
-    EXPECT_EQ(h.state.Dirty, c.dirty) << c.answer;
+    h.ui.push(answer);
+    MainConsole(h.state).RenameLeague();
+    const bool renamed = *answer == 'A';
+    EXPECT_EQ(h.state.league.LeagueName.str(), renamed ? "A Name Much Longer Than T" : "Test League") << answer;
+    EXPECT_EQ(h.state.Dirty, renamed) << answer;
   }
 }
 
-struct MenuCase {
-  const char* name;
-  // Header fields.
-  bool scheduleMade;
-  int gamesPlayed;
-  bool seasonOver, inPlayoffs, offSeason, entryDraft, expansionDraft;
-  // Expected.
-  bool playoffs, beginEntry, align, review, newSeason, rerateShown, continueEntry;
-  const char* entryCaption;
-  const char* expansionCaption;
-};
-
-void PrintTo(const MenuCase& c, std::ostream* os) { *os << c.name; }
-
-class MenuStates : public ::testing::TestWithParam<MenuCase> {};
-
-TEST_P(MenuStates, EnableAndCaption) {
-  const auto& c = GetParam();
-  League lg;
-  lg.ScheduleMade = ToBool16(c.scheduleMade);
-  lg.GamesPlayed = static_cast<i16>(c.gamesPlayed);
-  lg.SeasonOver = ToBool16(c.seasonOver);
-  lg.InPlayoffs = ToBool16(c.inPlayoffs);
-  lg.OffSeason = ToBool16(c.offSeason);
-  lg.EntryDraftOn = ToBool16(c.entryDraft);
-  lg.ExpansionDraftOn = ToBool16(c.expansionDraft);
-  auto menu = ComputeMenu(lg, {true, false});
-  auto at = [&](const char* cmd) {
-    const MenuEntry* e = FindEntry(menu, cmd);
-    EXPECT_NE(e, nullptr) << cmd;
-    return e ? *e : MenuEntry{};
+TEST(Menu, EnableAndCaptionFollowTheHeader) {
+  struct Case {
+    const char* name;
+    int gamesPlayed;
+    bool seasonOver, inPlayoffs, offSeason, entryDraft, expansionDraft;
+    // Expected.
+    bool playoffs, beginEntry, align, review, newSeason, continueEntry;
+  } cases[] = {
+      {"PreSeason", 0, false, false, false, false, false, false, true, true, true, false, false},
+      {"RegularSeason", 40, false, false, false, false, false, true, true, true, true, false, false},
+      {"SeasonOver", 80, true, false, false, false, false, true, false, false, true, false, false},
+      {"EntryDraftInPlayoffs", 5, true, true, false, true, false, false, false, false, false, false, true},
+      {"OffSeasonDrafts", 0, false, false, true, true, true, false, true, true, true, true, true},
   };
-  EXPECT_EQ(at("Playoffs").enabled, c.playoffs);
-  EXPECT_EQ(at("EntryDraft").enabled, c.beginEntry);
-  EXPECT_EQ(at("align").enabled, c.align);
-  EXPECT_EQ(at("RevSched").enabled, c.review);
-  EXPECT_EQ(at("NewSeason").enabled, c.newSeason);
-  EXPECT_EQ(at("ReRatePlayers").visible, c.rerateShown);
-  EXPECT_EQ(at("ConEntryDraft").enabled, c.continueEntry);
-  EXPECT_EQ(at("EntryDraft").caption, c.entryCaption);
-  EXPECT_EQ(at("ExpansionDraft").caption, c.expansionCaption);
-  // Whatever the state, the rest of the league commands stay on.
-  for (const char* cmd : {"SaveAs", "PlayGames", "cmdSchedule", "Trade", "SetLines", "OutputHTML", "ExpansionDraft"})
-    EXPECT_TRUE(at(cmd).enabled) << cmd;
-  EXPECT_FALSE(at("SaveLeague").enabled) << "nothing to save";
+  for (const auto& c : cases) {
+    League lg;
+    lg.ScheduleMade = ToBool16(c.gamesPlayed > 0);
+    lg.GamesPlayed = static_cast<i16>(c.gamesPlayed);
+    lg.SeasonOver = ToBool16(c.seasonOver);
+    lg.InPlayoffs = ToBool16(c.inPlayoffs);
+    lg.OffSeason = ToBool16(c.offSeason);
+    lg.EntryDraftOn = ToBool16(c.entryDraft);
+    lg.ExpansionDraftOn = ToBool16(c.expansionDraft);
+    auto menu = ComputeMenu(lg, {true, false});
+    auto at = [&](const char* cmd) { return *FindEntry(menu, cmd); };
+    EXPECT_EQ((std::array{at("Playoffs").enabled, at("EntryDraft").enabled, at("align").enabled,
+                          at("RevSched").enabled, at("NewSeason").enabled, at("ReRatePlayers").visible,
+                          at("ConEntryDraft").enabled}),
+              (std::array{c.playoffs, c.beginEntry, c.align, c.review, c.newSeason, c.newSeason, c.continueEntry}))
+        << c.name;
+    EXPECT_EQ(at("EntryDraft").caption, c.entryDraft ? "Re-Start Entry Draft" : "Begin Entry Draft") << c.name;
+    EXPECT_EQ(at("ExpansionDraft").caption, c.expansionDraft ? "Continue Expansion Draft" : "Begin E&xpansion Draft");
+    // Whatever the state, the rest of the league commands stay on.
+    for (const char* cmd : {"SaveAs", "PlayGames", "cmdSchedule", "Trade", "SetLines", "OutputHTML", "ExpansionDraft"})
+      EXPECT_TRUE(at(cmd).enabled) << cmd;
+    EXPECT_FALSE(at("SaveLeague").enabled) << "nothing to save";
+  }
 }
 
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(
-    States, MenuStates,
-    ::testing::Values(
-        //       name                  sched  gp  over   playo  offs   entry  expan | playo  begin  align  review newS   rerate cont
-        MenuCase{"PreSeason",          false, 0,  false, false, false, false, false, false, true,  true,  true,  false, false, false,
-                 "Begin Entry Draft", "Begin E&xpansion Draft"},
-        MenuCase{"ScheduleMade",       true,  0,  false, false, false, false, false, false, true,  true,  true,  false, false, false,
-                 "Begin Entry Draft", "Begin E&xpansion Draft"},
-        MenuCase{"RegularSeason",      true,  40, false, false, false, false, false, true,  true,  true,  true,  false, false, false,
-                 "Begin Entry Draft", "Begin E&xpansion Draft"},
-        MenuCase{"SeasonOver",         true,  80, true,  false, false, false, false, true,  false, false, true,  false, false, false,
-                 "Begin Entry Draft", "Begin E&xpansion Draft"},
-        MenuCase{"Playoffs",           true,  15, true,  true,  false, false, false, false, false, false, false, false, false, false,
-                 "Begin Entry Draft", "Begin E&xpansion Draft"},
-        MenuCase{"OffSeason",          false, 0,  false, false, true,  false, false, false, true,  true,  true,  true,  true,  false,
-                 "Begin Entry Draft", "Begin E&xpansion Draft"},
-        MenuCase{"OffSeasonEntryDraft", false, 0, false, false, true,  true,  false, false, true,  true,  true,  true,  true,  true,
-                 "Re-Start Entry Draft", "Begin E&xpansion Draft"},
-        MenuCase{"PreSeasonExpansion", false, 0,  false, false, false, false, true,  false, true,  true,  true,  false, false, false,
-                 "Begin Entry Draft", "Continue Expansion Draft"},
-        MenuCase{"EntryDraftInPlayoffs", true, 5, true,  true,  false, true,  false, false, false, false, false, false, false, true,
-                 "Re-Start Entry Draft", "Begin E&xpansion Draft"}),
-    [](const auto& info) { return std::string(info.param.name); });
-// clang-format on
-
-TEST(Menu, WithoutALeagueOnlyFileToolsAndInfoWork) {
+TEST(Menu, WithoutALeagueOnlyFileToolsAndInfoWorkAndEntriesAreFoundByEitherName) {
   League lg;
   lg.OffSeason = lg.EntryDraftOn = kTrue;  // ignored without a league
   for (const auto& e : ComputeMenu(lg, {false, true})) {
@@ -211,15 +134,8 @@ TEST(Menu, WithoutALeagueOnlyFileToolsAndInfoWork) {
               e.command == "exit" || e.menu == "&Tools" || e.menu == "I&nfo";
     EXPECT_EQ(e.enabled, on) << e.command;
   }
-}
-
-TEST(Menu, SaveFollowsDirty) {
-  League lg;
-  for (bool dirty : {false, true}) EXPECT_EQ(FindEntry(ComputeMenu(lg, {true, dirty}), "SaveLeague")->enabled, dirty);
-}
-
-TEST(Menu, EntriesAreFoundByCodeOrCommandLineName) {
-  auto menu = ComputeMenu(League{}, {true, false});
+  auto menu = ComputeMenu(League{}, {true, true});
+  EXPECT_TRUE(FindEntry(menu, "SaveLeague")->enabled);
   EXPECT_EQ(FindEntry(menu, "cmdSchedule"), FindEntry(menu, "make-schedule"));
   EXPECT_EQ(FindEntry(menu, "make-schedule")->caption, "&Make Schedule");
   EXPECT_EQ(FindEntry(menu, "nonsense"), nullptr);

@@ -1,17 +1,13 @@
 // AutoRoster, AutoLines and the league pass AutoAll on crafted rosters, and the line table's own rules.
-#include <gtest/gtest.h>
-
 #include <algorithm>
 
-#include "league/league_files.h"
-#include "support/league_fixture.h"
+#include "support/kvl_test.h"
 #include "support/team_rosters.h"
 #include "team/auto_all.h"
 #include "team/auto_lines.h"
 #include "team/auto_roster.h"
 #include "team/line_table.h"
 #include "team/roster_rules.h"
-#include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
@@ -108,11 +104,8 @@ TEST(LineTableTest, CompletenessLooksAtUsedSlotsOnly) {
   t.cells.fill(3);
   ForceUnusedSlots(t);
   EXPECT_TRUE(LinesComplete(t)) << "a player twice is no fault here";
-  EXPECT_EQ(t.at(6, 4), kNoPlayer);
-  EXPECT_EQ(t.at(12, 4), kNoPlayer);
-  EXPECT_EQ(t.at(10, 3), kNoPlayer);
-  EXPECT_EQ(t.at(12, 3), kNoPlayer);
-  EXPECT_EQ(t.at(9, 3), 3);
+  EXPECT_EQ((std::array{t.at(6, 4), t.at(12, 4), t.at(10, 3), t.at(12, 3), t.at(9, 3)}),
+            (std::array<u8, 5>{kNoPlayer, kNoPlayer, kNoPlayer, kNoPlayer, 3}));
   for (auto [row, slot] : {std::pair{0, 4}, {7, 3}, {11, 2}, {12, 2}, {12, 0}}) {
     LineTable gap = t;
     gap.at(row, slot) = kNoPlayer;
@@ -124,20 +117,13 @@ TEST(LineTableTest, RemovingAPlayerLeavesTheGoalieRowsLastSlot) {
   LineTable t;
   t.cells.fill(7);
   EXPECT_TRUE(RemoveFromLines(t, 7));
-  EXPECT_EQ(t.at(0, 0), kNoPlayer);
-  EXPECT_EQ(t.at(11, 4), kNoPlayer);
-  EXPECT_EQ(t.at(12, 3), kNoPlayer);
-  EXPECT_EQ(t.at(12, 4), 7);
+  EXPECT_EQ((std::array{t.at(0, 0), t.at(11, 4), t.at(12, 3), t.at(12, 4)}),
+            (std::array<u8, 4>{kNoPlayer, kNoPlayer, kNoPlayer, 7}));
   EXPECT_FALSE(RemoveFromLines(t, 8));
 }
 
-TEST(LineTableTest, LabelsAndCaptions) {
-  EXPECT_EQ(RowLabel(0), "E1");
-  EXPECT_EQ(RowLabel(7), "P4");
-  EXPECT_EQ(RowLabel(10), "K3");
-  EXPECT_EQ(SlotLabel(1, 2), "R");
-  EXPECT_EQ(SlotLabel(6, 1), "W");
-  EXPECT_EQ(SlotLabel(10, 1), "D");
+// Row and slot labels are the line editor's assignments test's.
+TEST(LineTableTest, Captions) {
   EXPECT_EQ(RowCaption(9), "PK Line 2 (4 on 5)");
   EXPECT_EQ(RowCaption(10), "PK Line 1 (3 on 5)");
   EXPECT_EQ(RowCaption(11), "PK Line 2 (4 on 5)");
@@ -153,9 +139,8 @@ TEST(LineTransferTest, StoresTheTableWithUnusedSlotsEmptiedAndSaves) {
   const Team& t = h.state.team(1);
   EXPECT_EQ(t.LinesOK, kTrue);
   EXPECT_TRUE(h.state.Dirty);
-  EXPECT_EQ(t.Lines.at(8, 4), kNoPlayer);
-  EXPECT_EQ(t.Lines.at(12, 3), kNoPlayer);
-  EXPECT_EQ(t.Lines.at(12, 2), 4);
+  EXPECT_EQ((std::array{t.Lines.at(8, 4), t.Lines.at(12, 3), t.Lines.at(12, 2)}),
+            (std::array<u8, 3>{kNoPlayer, kNoPlayer, 4}));
   Team saved = RecordFile(h.state.swap(swp::Teams), Team::kSize).getRecord<Team>(2);
   EXPECT_EQ(saved.Lines, t.Lines);
 }
@@ -173,13 +158,18 @@ struct AutoRosterTest : ::testing::Test {
   }
 };
 
-TEST_F(AutoRosterTest, TwentyHealthyPlayersAreAllDressedWhateverTheirList) {
+TEST_F(AutoRosterTest, TwentyHealthyPlayersAreAllDressedWhateverTheirListAndNineteenLeaveAGap) {
   // Scratches and minor leaguers alike; 4 of each forward, 6 D, 2 G.
   PutRoster(h.state, 0,
             Join({Several(kCentre, 4, 70, 100), Several(kLeftWing, 4, 70, 0), Several(kRightWing, 4, 70, 200),
                   Several(kDefence, 6, 70, 100), Several(kGoalie, 2, 70, 0)}));
   maker.AutoRoster(false);
   EXPECT_EQ(dressed(), 20);
+  // With nobody left for the last pick the first dressed player is picked again.
+  PutRoster(h.state, 0, Squad({4, 4, 4, 5, 2}, 70, 100));
+  RosterMaker again(h.state, 0, 0);
+  again.AutoRoster(false);
+  EXPECT_EQ(CountOf(again.TempStatus, 200), 19);
 }
 
 TEST_F(AutoRosterTest, DressesTheBestAtEachPositionAndTheBestSkatersBeyond) {
@@ -203,13 +193,12 @@ TEST_F(AutoRosterTest, InjuredPlayersAreScratchedAndInjuredMinorsComeUp) {
   r[1].Condition = 5;
   PutRoster(h.state, 0, r);
   maker.AutoRoster(false);
-  EXPECT_EQ(maker.TempStatus[0], 103);
-  EXPECT_EQ(maker.PrevStatus[0], 203);
-  EXPECT_EQ(at(0).Status, 203) << "a pro player's stored status waits for TransferBuffer";
-  EXPECT_EQ(maker.TempStatus[1], 102);
-  EXPECT_EQ(at(1).Status, 102) << "the minor leaguer's record comes onto the pro roster at once";
-  EXPECT_EQ(at(1).Condition, 100);
-  EXPECT_EQ(maker.PrevStatus[1], 102);
+  // A pro player's stored status waits for TransferBuffer; the minor leaguer's record comes onto the
+  // pro roster at once, rested.
+  EXPECT_EQ((std::array{int(maker.TempStatus[0]), int(maker.PrevStatus[0]), int(at(0).Status)}),
+            (std::array{103, 203, 203}));
+  EXPECT_EQ((std::array{int(maker.TempStatus[1]), int(maker.PrevStatus[1]), int(at(1).Status), int(at(1).Condition)}),
+            (std::array{102, 102, 102, 100}));
   EXPECT_EQ(dressed(), 20);
 }
 
@@ -222,13 +211,7 @@ TEST_F(AutoRosterTest, ShortOfDefenceTakesTheBestMinorSkater) {
   EXPECT_EQ(dressed(), 20);
 }
 
-TEST_F(AutoRosterTest, WithNobodyLeftTheFirstDressedPlayerIsPickedAgain) {
-  PutRoster(h.state, 0, Squad({4, 4, 4, 5, 2}, 70, 100));
-  maker.AutoRoster(false);
-  EXPECT_EQ(dressed(), 19);
-}
-
-TEST_F(AutoRosterTest, TiesGoToTheLowerIndexAndSuspendedPlayersAreSkipped) {
+TEST_F(AutoRosterTest, ThePickersTakeTheLowerIndexOnTiesSkipSuspensionsAndPromoteInOrder) {
   std::vector<Player> r{Rated(kCentre, 60, 100), Rated(kCentre, 70, 100), Rated(kCentre, 70, 100),
                         Rated(kCentre, 75, 100)};
   r[3].Suspended = 2;
@@ -236,11 +219,7 @@ TEST_F(AutoRosterTest, TiesGoToTheLowerIndexAndSuspendedPlayersAreSkipped) {
   maker.ResetFlags();
   EXPECT_EQ(maker.BestAvailable(kCentre, kByOffense), 1);
   EXPECT_EQ(maker.BestAvailable(kCentre, kByOverall), 1);
-}
-
-TEST_F(AutoRosterTest, PromoteMinorPassesInOrder) {
-  std::vector<Player> r{Rated(kDefence, 90, 200), Rated(kCentre, 80, 0), Rated(kDefence, 60, 0), Rated(kGoalie, 95, 0)};
-  PutRoster(h.state, 0, r);
+  PutRoster(h.state, 0, {Rated(kDefence, 90, 200), Rated(kCentre, 80, 0), Rated(kDefence, 60, 0), Rated(kGoalie, 95, 0)});
   maker.ResetFlags();
   EXPECT_EQ(maker.PromoteMinor(kDefence), 2) << "a defenceman first, though weaker";
   EXPECT_EQ(maker.PromoteMinor(kRightWing), 1) << "then any skater of the minors";
@@ -251,19 +230,6 @@ TEST_F(AutoRosterTest, PromoteMinorPassesInOrder) {
   at(2).Status = 4;
   maker.ResetFlags();
   EXPECT_EQ(maker.PromoteMinor(kDefence), 0) << "hurt minors sit as scratches; the first dressed is taken";
-}
-
-// Every entry of rows 0..11 a dressed skater, the starter a dressed goalie.
-void ExpectPlayableLines(LeagueState& s, int t) {
-  const Team& team = s.team(t);
-  ASSERT_TRUE(LinesComplete(team.Lines)) << team.Name.str();
-  EXPECT_EQ(team.LinesOK, kTrue);
-  for (int row = 0; row < kLineRows; ++row)
-    for (int slot = 0; slot < SlotsInRow(row); ++slot) {
-      const Player& p = s.player(0, team.Lines.at(row, slot));
-      EXPECT_EQ(p.list(), 2) << team.Name.str() << " row " << row << " slot " << slot;
-      EXPECT_EQ(p.Pos == kGoalie, row == kGoalieRow && slot == 0) << team.Name.str() << " row " << row;
-    }
 }
 
 TEST(AutoAllTest, ShortTeamsAreLeftAsTheyAreWithTheirShortagesAndGapsAreClosed) {
@@ -290,7 +256,13 @@ TEST(AutoAllTest, ShortTeamsAreLeftAsTheyAreWithTheirShortagesAndGapsAreClosed) 
   loadteam(h.state, 0, 0);
   EXPECT_FALSE(h.state.player(0, 5).empty());
   EXPECT_TRUE(h.state.player(0, 23).empty()) << "24 players less the one blanked fill slots 0..22";
-  ExpectPlayableLines(h.state, 0);
+  // The lines are made after the gap closed: every entry a dressed player.
+  const Team& team = h.state.team(0);
+  ASSERT_TRUE(LinesComplete(team.Lines));
+  EXPECT_EQ(team.LinesOK, kTrue);
+  for (int row = 0; row < kLineRows; ++row)
+    for (int slot = 0; slot < SlotsInRow(row); ++slot)
+      EXPECT_EQ(h.state.player(0, team.Lines.at(row, slot)).list(), 2) << "row " << row << " slot " << slot;
 }
 
 }  // namespace

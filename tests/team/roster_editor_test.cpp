@@ -1,17 +1,13 @@
-// The roster editor: its lists and caption, moves and their refusals, the
-// automatic roster's shortage text, protection limits, and leaving.
+// The roster editor: its lists and caption, moves and their refusals, the automatic roster's
+// shortage text, protection limits, and leaving. An injured scratch refused both ways is the e2e tests'.
 #include "team/roster_editor.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "league/league_files.h"
-#include "support/league_fixture.h"
+#include "support/kvl_test.h"
 #include "support/team_rosters.h"
 #include "team/protection.h"
 #include "team/roster_rules.h"
-#include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
@@ -36,33 +32,30 @@ TEST_F(RosterEditorTest, CaptionCallsARosterCompleteOnlyWhenItFitsTheRules) {
     std::array<int, 5> dressed;
     const char* caption;
   } cases[] = {
+      // Twenty dressed with one short position each (D, C, LW, RW, a third goalie), then 17 and 21.
       {{4, 4, 3, 7, 2}, "Roster Complete"},  {{3, 3, 3, 9, 2}, "Roster Complete"},
       {{5, 4, 4, 5, 2}, "20 Total Players"}, {{2, 4, 4, 8, 2}, "20 Total Players"},
-      {{4, 4, 4, 5, 3}, "20 Total Players"}, {{3, 3, 3, 6, 2}, "17 Total Players"},
+      {{4, 2, 4, 8, 2}, "20 Total Players"}, {{4, 4, 2, 8, 2}, "20 Total Players"},
+      {{4, 4, 3, 6, 3}, "20 Total Players"}, {{3, 3, 3, 6, 2}, "17 Total Players"},
       {{4, 4, 4, 7, 2}, "21 Total Players"},
   };
   for (const auto& c : cases) {
-    Harness fresh;
-    LeaguePlan plan = StandardLeague(2);
-    plan.rosters[0] = Join({Squad(c.dressed, 70), Squad({1, 1, 1, 1, 1}, 40, 100)});
-    fresh.load(plan);
-    EXPECT_EQ(RosterEditor(fresh.state, 0).caption(), c.caption);
+    open(Join({Squad(c.dressed, 70), Squad({1, 1, 1, 1, 1}, 40, 100)}));
+    EXPECT_EQ(RosterEditor(h.state, 0).caption(), c.caption);
   }
 }
 
 TEST_F(RosterEditorTest, MovesAreRefusedWithTheSystemsWordsAndChangeNothing) {
   std::vector<Player> r = Squad({4, 4, 4, 6, 2}, 70);
-  r.push_back(Rated(kCentre, 60, 103));  // 20: an injured scratch
-  r.push_back(Rated(kCentre, 61, 100));  // 21: a suspended scratch
-  r[21].Suspended = 3;
+  r.push_back(Rated(kCentre, 61, 100));  // 20: a suspended scratch
+  r[20].Suspended = 3;
   open(r);
   RosterEditor e(h.state, 0);
   auto before = e.TempStatus;
-  e.cmdMovePlayer(RosterMove::ScratchToDressed, {20, 21});
-  EXPECT_TRUE(h.ui.told("C 60 is unavailable", "Set Roster"));
-  EXPECT_TRUE(h.ui.told("C 61 is unavailable", "Set Roster"));
+  e.cmdMovePlayer(RosterMove::ScratchToDressed, {20});
   e.cmdMovePlayer(RosterMove::ScratchToMinors, {20});
-  EXPECT_TRUE(h.ui.told("C 60 cannot be sent to farm", "Set Roster"));
+  EXPECT_TRUE(h.ui.told("C 61 is unavailable", "Set Roster"));
+  EXPECT_TRUE(h.ui.told("C 61 cannot be sent to farm", "Set Roster"));
   EXPECT_EQ(e.TempStatus, before);
   // A player dressed at opening and sent down cannot come back in this sitting.
   e.cmdMovePlayer(RosterMove::DressedToScratch, {0});
@@ -135,23 +128,6 @@ TEST_F(RosterEditorTest, LeavingWithYesStoresTheListsAndClearsTheLinesOfTheUndre
                         team.Lines.at(1, 0), team.Lines.at(2, 0)}),
             (std::array<u8, 6>{kNoPlayer, kNoPlayer, kNoPlayer, 0, kNoPlayer, 2}));
   EXPECT_EQ(team.LinesOK, kFalse);
-  EXPECT_TRUE(h.state.Dirty);
-}
-
-TEST_F(RosterEditorTest, LeavingWithNoOrClosingKeepsNothing) {
-  open(Squad({4, 4, 4, 6, 2}, 70));
-  h.state.Dirty = false;
-  RosterEditor e(h.state, 0);
-  e.cmdMovePlayer(RosterMove::DressedToScratch, {0});
-  h.ui.push("no");
-  EXPECT_FALSE(e.cmdExit());
-  loadteam(h.state, 0, 0);
-  EXPECT_EQ(at(0).Status, 200);
-  EXPECT_FALSE(h.state.Dirty);
-  RosterEditor again(h.state, 0);
-  again.SetName(3, "Renamed");
-  again.cmdClose();
-  EXPECT_TRUE(h.ui.told("Changes were not saved", "Edit Roster"));
 }
 
 TEST_F(RosterEditorTest, ReleasedPlayersGoToTheFreeAgentsOnce) {
@@ -175,8 +151,9 @@ TEST_F(RosterEditorTest, ReleasedPlayersGoToTheFreeAgentsOnce) {
   EXPECT_EQ(rec.P.Release + rec.DbFlag, 0) << "a free agent, no longer marked for release";
 }
 
-TEST_F(RosterEditorTest, NameAndRatingEdits) {
+TEST_F(RosterEditorTest, NameAndRatingEditsAndLeavingWithNoOrClosingKeepsNothing) {
   open(Squad({4, 4, 4, 6, 2}, 70));
+  h.state.Dirty = false;
   RosterEditor e(h.state, 0);
   e.SetName(0, "A Name Much Longer Than Twenty-Two");
   EXPECT_EQ(at(0).Name.raw(), "A Name Much Longer Tha");
@@ -189,6 +166,16 @@ TEST_F(RosterEditorTest, NameAndRatingEdits) {
     e.SetRating(1, kSco, c.text);
     EXPECT_EQ(at(1).rating(kSco), c.stored) << c.text;
   }
+  e.cmdMovePlayer(RosterMove::DressedToScratch, {0});
+  h.ui.push("no");
+  EXPECT_FALSE(e.cmdExit());
+  loadteam(h.state, 0, 0);
+  EXPECT_EQ(at(0).Status, 200);
+  EXPECT_FALSE(h.state.Dirty);
+  RosterEditor again(h.state, 0);
+  again.SetName(3, "Renamed");
+  again.cmdClose();
+  EXPECT_TRUE(h.ui.told("Changes were not saved", "Edit Roster"));
 }
 
 TEST(ProtectionTest, LimitsTightenAsMarksAreSpent) {

@@ -1,15 +1,9 @@
 // Prospects: adding to a full list, and activation through a database match,
 // by hand, and onto a full roster.
-#include <gtest/gtest.h>
-
-#include <fstream>
-
-#include "league/league_files.h"
 #include "support/golden.h"
-#include "support/league_fixture.h"
+#include "support/kvl_test.h"
 #include "team/youth_form.h"
 #include "transactions/database_players.h"
-#include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
@@ -27,49 +21,35 @@ struct ProspectsTest : ::testing::Test {
   }
 };
 
-TEST_F(ProspectsTest, ActivationBringsTheProspectOntoTheRoster) {
-  struct Case {
-    const char* what;
-    const char* prospect;
-    bool manual, fullRoster;
-    const char* status;
-    int rating;  // of the new player; 0: nobody added
-    const char* told;
-  } cases[] = {
-      {"no record: made by hand", "Bob Blue", true, false, "No match has been found", 50,
-       "Bob Blue added to the Team0"},
-      {"a full roster keeps him on the list", "Ann Ace", false, true, "Name has been matched", 0,
-       "You cannot have more than 50 players on your roster"},
-      {"the free record of his name, not the used one", "Ann Ace", false, false, "Name has been matched", 77,
-       "Ann Ace added to the Team0"},
-  };
-  for (const auto& c : cases) {
-    Harness& s = h;
-    ViewProspects v(s.state, 0);
-    const int entry = v.cmdAdd(c.prospect);
-    if (c.fullRoster)  // not saved: the next case has room again
-      for (int i = 0; i < kRosterSlots; ++i)
-        if (s.state.player(0, i).empty()) s.state.player(0, i) = MakePlayer("Filler", kDefence, 40, 0);
-    const int slot = FirstFreeSlot(s.state, 0);
-    if (c.fullRoster) {
-      ASSERT_EQ(slot, -1);
-    }
+// Each ViewProspects loads the team again: the roster filled in memory has room once more below.
+TEST_F(ProspectsTest, ActivationBringsTheProspectOntoTheRosterUnlessItIsFull) {
+  {
+    ViewProspects v(h.state, 0);
+    const int entry = v.cmdAdd("Ann Ace");
+    for (int i = 0; i < kRosterSlots; ++i)
+      if (h.state.player(0, i).empty()) h.state.player(0, i) = MakePlayer("Filler", kDefence, 40, 0);
     FindMatch m = v.cmdActivate(entry);
-    EXPECT_EQ(m.status(), c.status) << c.what;
-    ASSERT_TRUE(c.manual || m.matched()) << c.what;
-    const bool added = c.manual ? m.cmdManual(c.prospect) : m.cmdMatch(*m.matched());
-    EXPECT_EQ(added, c.rating != 0) << c.what;
-    EXPECT_EQ(s.state.Prospects[0].Name[static_cast<std::size_t>(entry)].empty(), added) << c.what;
-    EXPECT_EQ(s.ui.callsOf("tell").back().text, c.told) << c.what;
-    if (!added) continue;
-    loadteam(s.state, 0, 0);
-    const Player& p = s.state.player(0, slot);
-    EXPECT_EQ(p.Name.str(), c.prospect) << c.what;
-    EXPECT_EQ(p.rating(kSpd), c.rating) << c.what;
-    EXPECT_NE(p.Num, 2) << c.what << ": a worn number changes";
-    EXPECT_TRUE(
-        ReadAll(h.state.swap(swp::Transactions)).ends_with(std::string("Team0 sign ") + c.prospect + "<BR><BR>\r\n"))
-        << c.what;
+    ASSERT_TRUE(m.matched());
+    EXPECT_FALSE(m.cmdMatch(*m.matched()));
+    EXPECT_TRUE(h.ui.told("You cannot have more than 50 players on your roster", "No Room on Roster"));
+    EXPECT_FALSE(h.state.Prospects[0].Name[static_cast<std::size_t>(entry)].empty()) << "he stays on the list";
+  }
+  for (const std::string name : {"Bob Blue", "Ann Ace"}) {
+    const bool manual = name == "Bob Blue";  // no record of his name: made by hand
+    ViewProspects v(h.state, 0);
+    const int entry = v.cmdAdd(name);
+    const int slot = FirstFreeSlot(h.state, 0);
+    FindMatch m = v.cmdActivate(entry);
+    EXPECT_EQ(m.status(), manual ? "No match has been found" : "Name has been matched");
+    ASSERT_TRUE(manual ? m.cmdManual(name) : m.cmdMatch(*m.matched()));
+    EXPECT_TRUE(h.state.Prospects[0].Name[static_cast<std::size_t>(entry)].empty());
+    EXPECT_TRUE(h.ui.told(name + " added to the Team0", "Activate Prospect"));
+    loadteam(h.state, 0, 0);
+    const Player& p = h.state.player(0, slot);
+    EXPECT_EQ(p.Name.str(), name);
+    EXPECT_EQ(p.rating(kSpd), manual ? 50 : 77) << "the free record of his name, not the used one";
+    EXPECT_NE(p.Num, 2) << name << ": a worn number changes";
+    EXPECT_TRUE(ReadAll(h.state.swap(swp::Transactions)).ends_with("Team0 sign " + name + "<BR><BR>\r\n")) << name;
   }
   EXPECT_TRUE(FindMatch(h.state, 0, ViewProspects(h.state, 0).cmdAdd("Ann Ace")).records().empty())
       << "a matched record is used";

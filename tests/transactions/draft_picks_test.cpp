@@ -1,11 +1,10 @@
-// Draft picks: the fresh set, sorting, and the form that edits a team's picks.
+// Draft picks: the fresh set, sorting, and the form that edits a team's picks. Kept edits
+// written in order are the e2e tests'.
 #include "transactions/draft_picks.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "support/league_fixture.h"
+#include "support/kvl_test.h"
 #include "transactions/draft_pick_editor.h"
 
 namespace kvl::test {
@@ -78,19 +77,6 @@ struct PickEditor : ::testing::Test {
     MakeDraftPicks(h.state);
   }
 };
-
-TEST_F(PickEditor, KeptChangesAreWrittenInOrder) {
-  DraftPickEditor form(h.state, 0);
-  ASSERT_TRUE(form.cmdRemove(1));     // its own 2027 first rounder
-  ASSERT_TRUE(form.cmdAdd(0, 0, 3));  // team 3's instead
-  h.ui.push("yes");
-  ASSERT_TRUE(form.cmdExit());
-  const DraftPickRecord r = ReadDraftPicks(h.state, 0);
-  // Sorted back to the head of its year and round.
-  EXPECT_EQ((std::array{int(r.Pick[1].OrigTeam), int(r.Pick[1].Owner), int(r.Pick[2].Round), int(r.Pick[55].Active)}),
-            (std::array{3, 0, 1, 0}));
-  EXPECT_TRUE(h.state.Dirty);
-}
 
 TEST_F(PickEditor, ANoOrABadPickChangesNothing) {
   DraftPickEditor form(h.state, 1);

@@ -1,21 +1,16 @@
-// The entry draft with its lottery, and the expansion draft.
+// The entry draft with its lottery, and the expansion draft. The picks of later years coming a year
+// nearer after a whole draft, and the pages, are the e2e tests'.
 #include "transactions/entry_draft.h"
 
-#include <gtest/gtest.h>
-
 #include <fstream>
-#include <numeric>
 
-#include "league/league_files.h"
-#include "league/ratings.h"
 #include "support/data_league.h"
-#include "support/league_fixture.h"
+#include "support/kvl_test.h"
 #include "transactions/database_players.h"
 #include "transactions/draft_list.h"
 #include "transactions/draft_lottery.h"
 #include "transactions/draft_picks.h"
 #include "transactions/expansion_draft.h"
-#include "util/error.h"
 
 namespace kvl::test {
 namespace {
@@ -177,15 +172,8 @@ TEST(EntryDraft, ContinuesAfterASaveAndALoadThenTurnsThePicksOver) {
   EXPECT_EQ(form.cmdAuto(100), 11) << "two rounds of eight";
   EXPECT_FALSE(again.state.league.EntryDraftOn);
   EXPECT_TRUE(again.ui.told("Draft Complete", kTitle));
-  EXPECT_TRUE(std::filesystem::exists(again.home / "Transfer" / "draftEntryDraft.html"));
-  for (int t = 0; t < 8; ++t) {
-    const DraftPickRecord r = ReadDraftPicks(again.state, t);
-    std::array<int, kPickYears> perYear{};
-    for (int i = 1; i < DraftPickRecord::kEntries; ++i)
-      if (r.Pick[static_cast<std::size_t>(i)].Active) ++perYear[r.Pick[static_cast<std::size_t>(i)].CurrentYear];
-    EXPECT_EQ(perYear, (std::array<int, kPickYears>{9, 9, 9, 9, 9, 9})) << "team " << t;
-    EXPECT_EQ(r.Pick[1].OrigTeam, t) << "sorted: this year's first round first";
-  }
+  for (int t = 0; t < 8; ++t)
+    EXPECT_EQ(ReadDraftPicks(again.state, t).Pick[1].OrigTeam, t) << "sorted: this year's first round first";
   EXPECT_EQ(again.state.league.CurrentYear, d.h.state.league.CurrentYear) << "the year turns with the season";
 }
 
@@ -218,13 +206,6 @@ struct Expansion {
   test::Harness h;
 };
 
-TEST(ExpansionDraft, NoLeavesTheLeagueAsItWas) {
-  Expansion e;
-  e.h.ui.push("no");
-  EXPECT_FALSE(ExpansionDraft(e.h.state));
-  EXPECT_FALSE(e.h.state.league.ExpansionRounds || e.h.state.league.ExpansionDraftOn || e.h.state.Dirty);
-}
-
 TEST(ExpansionDraft, AutoTakesTheQuotaByPositionAndNeverAProtectedPlayer) {
   Expansion e;
   ASSERT_TRUE(e.begin());
@@ -234,7 +215,6 @@ TEST(ExpansionDraft, AutoTakesTheQuotaByPositionAndNeverAProtectedPlayer) {
     EXPECT_GE(u.slot, 3) << u.name << " is protected";
   }
   EXPECT_EQ(form.cmdAuto(), 24);
-  EXPECT_TRUE(e.h.ui.told("Expansion Draft Complete", kExpansionTitle));
   const Team& t = e.h.state.team(kNew);
   EXPECT_EQ(std::vector<int>({t.ExpFwd, t.ExpDef, t.ExpGoal}), std::vector<int>({13, 8, 3}));
   EXPECT_FALSE(e.h.state.league.ExpansionDraftOn);
@@ -272,12 +252,15 @@ TEST(ExpansionDraft, RefusedTakesChangeNothing) {
   EXPECT_EQ(e.roster(1).size(), 24u);
 }
 
-TEST(ExpansionDraft, AFullExpansionTeamTakesNobody) {
+TEST(ExpansionDraft, NoLeavesTheLeagueAsItWasAndAFullExpansionTeamTakesNobody) {
   Expansion e;
   loadteam(e.h.state, kNew, 0);
   for (int slot = 0; slot < kRosterSlots; ++slot)
     e.h.state.player(0, slot) = test::MakePlayer("Full" + std::to_string(slot), kCentre, 50);
   SaveTeam(e.h.state, kNew, 0);
+  e.h.ui.push("no");
+  EXPECT_FALSE(ExpansionDraft(e.h.state));
+  EXPECT_FALSE(e.h.state.league.ExpansionRounds || e.h.state.league.ExpansionDraftOn || e.h.state.Dirty);
   ASSERT_TRUE(e.begin());
   ExpansionDraftForm form(e.h.state);
   EXPECT_TRUE(form.over());

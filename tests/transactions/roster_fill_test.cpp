@@ -1,19 +1,14 @@
 // Filling rosters from the database: the automatic fill and the hand-picked one.
 #include "transactions/roster_fill.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
 #include <set>
 
-#include "league/league_files.h"
 #include "league/ratings.h"
 #include "league/roster_check.h"
 #include "support/data_league.h"
+#include "support/kvl_test.h"
 #include "transactions/database_players.h"
 #include "transactions/unused_players.h"
-#include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
@@ -52,6 +47,7 @@ TEST_P(FillRostersTeams, GivesEveryTeamALegalEvenClub) {
   EXPECT_TRUE(CheckRosters(h.state).allValid);
 
   double lo = 99, hi = 0;
+  int worstGoalie = 99;
   std::set<std::string> names;
   for (int t = 0; t < teams; ++t) {
     ClubCount c = Count(h.state, t);
@@ -62,38 +58,26 @@ TEST_P(FillRostersTeams, GivesEveryTeamALegalEvenClub) {
     hi = std::max(hi, c.dressedMean);
     for (int slot = 0; slot < kRosterSlots; ++slot) {
       const Player& p = h.state.player(0, slot);
-      if (!p.empty()) {
-        EXPECT_TRUE(names.insert(p.Name.str()).second) << "on two teams";
-      }
+      if (p.empty()) continue;
+      EXPECT_TRUE(names.insert(p.Name.str()).second) << "on two teams";
+      if (p.Pos == kGoalie && p.list() == 2) worstGoalie = std::min(worstGoalie, Overall(p));
     }
   }
   EXPECT_LE(hi - lo, 2.0) << "dressed means from " << lo << " to " << hi;
 
-  // The database marks exactly the players handed out.
-  std::vector<DbRecord> db = ReadDatabase(h.state);
-  EXPECT_EQ(std::count_if(db.begin(), db.end(), [](const DbRecord& d) { return d.DbFlag != 0; }), teams * 28);
-  for (const DbRecord& d : db) EXPECT_EQ(d.DbFlag != 0, names.count(d.P.Name.str()) == 1) << d.P.Name.str();
-}
-
-INSTANTIATE_TEST_SUITE_P(Leagues, FillRostersTeams, ::testing::Values(8, 24, 50));
-
-TEST(FillRosters, TheBetterPlayersGoEarly) {
-  test::Harness h;
-  test::NewBundledLeague(h, 8);
-  FillRosters(h.state);
-  // No free goalie of the database is better than a dressed goalie of any team.
-  int worstDressed = 99, bestFree = 0;
-  for (int t = 0; t < 8; ++t) {
-    loadteam(h.state, t, 0);
-    for (int slot = 0; slot < kRosterSlots; ++slot) {
-      const Player& p = h.state.player(0, slot);
-      if (!p.empty() && p.Pos == kGoalie && p.list() == 2) worstDressed = std::min(worstDressed, Overall(p));
-    }
-  }
-  for (const DbRecord& d : ReadDatabase(h.state))
+  // The database marks exactly the players handed out, and the better ones go early: no free
+  // goalie is better than a dressed one.
+  int bestFree = 0;
+  for (const DbRecord& d : ReadDatabase(h.state)) {
+    EXPECT_EQ(d.DbFlag != 0, names.count(d.P.Name.str()) == 1) << d.P.Name.str();
     if (d.DbFlag == 0 && d.P.Pos == kGoalie) bestFree = std::max(bestFree, Overall(d.P));
-  EXPECT_GE(worstDressed, bestFree);
+  }
+  EXPECT_EQ(names.size(), static_cast<std::size_t>(teams * 28));
+  EXPECT_GE(worstGoalie, bestFree);
 }
+
+// 24 teams are the demo's.
+INSTANTIATE_TEST_SUITE_P(Leagues, FillRostersTeams, ::testing::Values(8, 50));
 
 TEST(FillRosters, FillsOnlyWhatATeamLacksAndKeepsItsLineUp) {
   test::Harness h;
@@ -110,22 +94,9 @@ TEST(FillRosters, FillsOnlyWhatATeamLacksAndKeepsItsLineUp) {
   EXPECT_EQ(c.dressed, (std::array<int, 5>{4, 4, 4, 7, 1})) << "the old line-up stands";
 }
 
-TEST(FillRosters, ADatabaseTooSmallLeavesTeamsShort) {
-  test::Harness h;
-  test::NewBundledLeague(h, 8);
-  // Only the first 100 records stay free.
-  std::vector<DbRecord> db = ReadDatabase(h.state);
-  std::vector<int> taken;
-  for (int n = 101; n <= static_cast<int>(db.size()); ++n) taken.push_back(n);
-  MarkUsed(h.state, taken);
-  FillResult r = FillRosters(h.state);
-  EXPECT_LE(r.assigned, 100);
-  EXPECT_FALSE(r.shortTeams.empty());
-}
-
 constexpr const char* kTitle = "Assign Unused Players";
 
-TEST(UnusedPlayers, AnAssignedPlayerLeavesTheListForTheFirstFreeSlot) {
+TEST(UnusedPlayers, AssignedPlayersLeaveTheListForTheFirstFreeSlotAndTheTwentySixthProGoesDown) {
   test::Harness h;
   test::NewBundledLeague(h, 8);
   UnusedPlayers form(h.state);
@@ -133,10 +104,8 @@ TEST(UnusedPlayers, AnAssignedPlayerLeavesTheListForTheFirstFreeSlot) {
   ASSERT_EQ(before.size(), 1600u);
   const UnusedEntry pick = before[41];
   EXPECT_EQ(pick.overall, Overall(ReadDatabase(h.state)[41].P));
-
   ASSERT_TRUE(form.cmdAdd(5, pick.record));
   EXPECT_TRUE(h.ui.told(pick.name + " added to roster", kTitle));
-  EXPECT_TRUE(h.state.Dirty);
   std::vector<UnusedEntry> after = form.list();
   EXPECT_EQ(after.size(), before.size() - 1);
   EXPECT_TRUE(std::none_of(after.begin(), after.end(), [&](const UnusedEntry& e) { return e.record == pick.record; }));
@@ -145,6 +114,13 @@ TEST(UnusedPlayers, AnAssignedPlayerLeavesTheListForTheFirstFreeSlot) {
   EXPECT_EQ(p.Name.str(), pick.name);
   EXPECT_EQ((std::array{int(p.Pos), int(p.Status), int(p.Condition)}), (std::array{int(pick.pos), 100, 100}))
       << "on the pro roster, not dressed";
+  for (int record = 1; record <= 26; ++record) ASSERT_TRUE(form.cmdAdd(3, record));
+  loadteam(h.state, 3, 0);
+  std::set<int> numbers;
+  for (int slot = 0; slot < 26; ++slot) {
+    EXPECT_EQ(h.state.player(0, slot).Status, slot < 25 ? 100 : 0) << "slot " << slot;
+    EXPECT_TRUE(numbers.insert(h.state.player(0, slot).Num).second) << "slot " << slot;
+  }
 }
 
 TEST(UnusedPlayers, RefusalsChangeNothing) {
@@ -167,19 +143,6 @@ TEST(UnusedPlayers, RefusalsChangeNothing) {
     EXPECT_FALSE(form.cmdAdd(c.team, c.record)) << c.told;
     EXPECT_TRUE(h.ui.told(c.told, kTitle)) << c.told;
     EXPECT_EQ(form.list().size(), free) << c.told;
-  }
-}
-
-TEST(UnusedPlayers, TheTwentySixthProGoesToTheMinorsAndNumbersStayUnique) {
-  test::Harness h;
-  test::NewBundledLeague(h, 8);
-  UnusedPlayers form(h.state);
-  for (int record = 1; record <= 26; ++record) ASSERT_TRUE(form.cmdAdd(3, record));
-  loadteam(h.state, 3, 0);
-  std::set<int> numbers;
-  for (int slot = 0; slot < 26; ++slot) {
-    EXPECT_EQ(h.state.player(0, slot).Status, slot < 25 ? 100 : 0) << "slot " << slot;
-    EXPECT_TRUE(numbers.insert(h.state.player(0, slot).Num).second) << "slot " << slot;
   }
 }
 

@@ -2,17 +2,14 @@
 // the fee, recalls, the priority list, free agents and random contracts.
 #include "transactions/waivers.h"
 
-#include <gtest/gtest.h>
-
-#include "league/league_files.h"
 #include "support/golden.h"
+#include "support/kvl_test.h"
 #include "support/sim_league.h"
 #include "transactions/check_waivers.h"
 #include "transactions/database_players.h"
 #include "transactions/free_agents.h"
 #include "transactions/priority.h"
 #include "util/numbers.h"
-#include "util/record_file.h"
 
 namespace kvl::test {
 namespace {
@@ -103,11 +100,14 @@ TEST(Waivers, ClaimableForFiveDaysAndGoneAfterSeven) {
       << "nobody claimed: the placing team drops to the bottom";
 }
 
-TEST(Waivers, AHigherTeamTakesHimBackAndEachHolderIsPaid) {
+TEST(Waivers, AHigherTeamTakesHimEachHolderIsPaidAndTheOwnerRecallsHim) {
   Wire w;
   w.placed();
   const FixedText<22> name = w.veteran().Name;
   LeagueState& s = w.h.state;
+  Waivers owner(s, 0);
+  ASSERT_TRUE(owner.MayRecall(1));
+  EXPECT_FALSE(Waivers(s, 1).MayRecall(1));
   ASSERT_TRUE(Waivers(s, 2).cmdClaim(1));
   EXPECT_TRUE(ListWaivers(s, 2).empty()) << "a claimant sees no more claims";
   EXPECT_TRUE(ListWaivers(s, 3).empty()) << "nor does a team below it";
@@ -120,18 +120,8 @@ TEST(Waivers, AHigherTeamTakesHimBackAndEachHolderIsPaid) {
   const int slot = ReadWaivers(s)[0].Slot;
   EXPECT_EQ(s.player(0, slot).Name, name);
   EXPECT_EQ(s.player(0, slot).list(), 1);
-}
-
-TEST(Waivers, TheOwnerRecallsHisPlayer) {
-  Wire w;
-  w.placed();
-  LeagueState& s = w.h.state;
-  Waivers owner(s, 0);
-  ASSERT_TRUE(owner.MayRecall(1));
-  EXPECT_FALSE(Waivers(s, 1).MayRecall(1));
-  ASSERT_TRUE(Waivers(s, 3).cmdClaim(1));
   ASSERT_TRUE(owner.cmdRecall(1));
-  EXPECT_EQ((std::array{s.team(3).CurFin, s.team(0).CurFin}), (std::array{0, 0})) << "paid the fee and got it back";
+  EXPECT_EQ((std::array{s.team(1).CurFin, s.team(0).CurFin}), (std::array{0, 0})) << "paid the fee and got it back";
   EXPECT_EQ(ReadWaivers(s)[0].Holder, 0);
   EXPECT_NE(ReadAll(w.h.home / "swp.tr").find("Team0 recall "), std::string::npos);
 }
