@@ -218,5 +218,33 @@ TEST(FormsCli, WaiversAndFreeAgents) {
   lg.expectTranscript(__FILE__, "forms_waivers.txt");
 }
 
+// StandardLeague deals teams round the four divisions: Team2 is in conference 2, division 1.
+TEST(FormsCli, Alignment) {
+  CliLeague lg(StandardLeague(4));
+  Answered(lg, "\n", {"--yes", "align", "add", "1", "1"});  // an empty name adds nobody
+  RunAll(lg, {{"--yes", "align", "add", "2", "1", "Saskatoon Blades"},
+              {"--yes", "align", "rename-conference", "2", "Western Conference"},
+              {"--yes", "align", "rename-division", "2", "2", "Pacific Northwest"},
+              {"--yes", "align", "expansion", "2"},
+              {"--no", "align", "move", "0", "2", "2"},
+              {"--yes", "align", "move", "0", "2", "2"},
+              {"--yes", "align", "divisions", "1", "4"},
+              {"--yes", "align", "divisions", "1", "2"},
+              {"--yes", "align", "divisions", "2", "1"},
+              {"--yes", "align", "divisions", "1", "5"},
+              {"align", "show"},
+              {"view-team", "4"},
+              {"--yes", "align", "expansion", "2", "--clear"},
+              {"align", "show"}});
+  lg.note("priority: " + fmt::format("{}", fmt::join(ReadFileBytes(lg.path + ".pri"), " ")));
+  CliLeague full(StandardLeague(40));
+  RunAll(full, {{"--yes", "align", "add", "1", "1", "Never"},
+                {"--yes", "align", "add", "2", "3", "Never"},
+                {"--yes", "align", "move", "1", "1", "1"}});
+  CliLeague most(StandardLeague(50));
+  most.kvl({"--yes", "align", "add", "1", "1", "Y"});
+  ExpectGolden(__FILE__, "forms_align.txt", lg.transcript + full.transcript + most.transcript);
+}
+
 }  // namespace
 }  // namespace kvl::test
