@@ -4,7 +4,10 @@
 #include "support/golden.h"
 #include "support/kvl_test.h"
 #include "support/league_cli.h"
+#include "support/sim_league.h"
 #include "support/team_files.h"
+#include "support/team_rosters.h"
+#include "team/roster_rules.h"
 
 namespace kvl::test {
 namespace {
@@ -244,6 +247,65 @@ TEST(FormsCli, Alignment) {
   CliLeague most(StandardLeague(50));
   most.kvl({"--yes", "align", "add", "1", "1", "Y"});
   ExpectGolden(__FILE__, "forms_align.txt", lg.transcript + full.transcript + most.transcript);
+}
+
+// Team 0 has lines set, a hurt player dressed (slot 2) and a suspended scratch (slot 18); team 1 a
+// goalie of team 0's name; team 2 is short everywhere; team 3 has 25 pro players and a hold-out.
+TEST(FormsCli, Rosters) {
+  LeaguePlan plan = SimLeague(4);
+  plan.rosters[0][2].Status = 204;
+  plan.rosters[0][18].Suspended = 3;
+  plan.rosters[1][21].Name = plan.rosters[0][21].Name;
+  plan.rosters[3] = Join({Squad({4, 4, 4, 6, 2}, 70), Squad({1, 1, 1, 1, 1}, 50, 100), Several(kCentre, 2, 41, 0)});
+  CliLeague lg(plan);
+  RunAll(lg, {{"set-roster", "0", "--dress", "18"},
+              {"set-roster", "0", "--farm", "18"},
+              {"set-roster", "0", "--scratch", "0", "--dress", "0"},  // sent down in this sitting: stays down
+              {"--yes", "set-roster", "0", "--scratch", "1", "--release", "21"},
+              {"--yes", "set-roster", "1", "--release", "21"},
+              {"free-agents"},
+              {"--yes", "set-roster", "1", "--protect", "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "12", "13",
+               "14", "15", "16", "19"},
+              {"set-roster", "1", "--protect", "10"},  // an eleventh forward
+              {"set-roster", "1", "--protect", "17"},  // ten forwards leave room for five D
+              {"set-roster", "1", "--protect", "20"},  // and one goalie
+              {"--yes", "set-roster", "1", "--protect", "0"},  // unmarking, at the limit
+              {"set-roster", "3", "--up", "25", "26"}});
+  const Team team = RecordFile(lg.path + ".tms", Team::kSize).getRecord<Team>(1);
+  EXPECT_EQ(std::count(team.Lines.cells.begin(), team.Lines.cells.end(), 1) +
+                std::count(team.Lines.cells.begin(), team.Lines.cells.end(), 2), 0)
+      << "the player sent down and the hurt one leave the lines";
+  EXPECT_EQ(team.LinesOK, kFalse);
+  Edit<Player>(lg.path + ".ros", 3 * kRosterSlots + 21, [](Player& p) { p.Suspended = kHoldOut; });
+  lg.kvl({"set-roster", "3", "--up", "25"});
+  LeaguePlan shortPlan = StandardLeague(2);
+  shortPlan.rosters[1] = Squad({2, 4, 4, 4, 1}, 70, 100);
+  CliLeague shortOfAll(shortPlan);
+  shortOfAll.kvl({"set-roster", "1", "--auto"});
+  ExpectGolden(__FILE__, "forms_rosters.txt", lg.transcript + shortOfAll.transcript);
+}
+
+// The league's database holds Ann Ace used (rated 60) and free (77, wearing Team0's number 2);
+// Team1's roster is full.
+TEST(FormsCli, ProspectsActivated) {
+  LeaguePlan plan = StandardLeague(2);
+  while (plan.rosters[1].size() < kRosterSlots) plan.rosters[1].push_back(MakePlayer("Filler", kDefence, 40, 0));
+  CliLeague lg(plan);
+  RecordFile db(lg.path + ".drs", DbRecord::kSize);
+  db.putRecord(1, DbRecord{kTrue, MakePlayer("Ann Ace", kCentre, 60)});
+  DbRecord free{kFalse, MakePlayer("Ann Ace", kCentre, 77)};
+  free.P.Num = 2;
+  db.putRecord(2, free);
+  RunAll(lg, {{"--yes", "view-prospects", "1", "--add", "Ann Ace", "--activate", "Ann Ace"},
+              {"view-prospects", "1"},
+              {"--yes", "view-prospects", "0", "--add", "Ann Ace", "--add", "Bob Blue", "--activate", "Ann Ace"},
+              {"--yes", "view-prospects", "0", "--activate", "Bob Blue"},
+              {"--yes", "view-prospects", "0", "--activate", "Bob Blue", "--manual", ""},
+              {"player", "0", "24"},
+              {"player", "0", "25"},
+              {"--yes", "view-prospects", "0", "--add", "Ann Ace", "--activate", "Ann Ace"}});  // her record is used
+  lg.note("log: " + ReadAll(lg.path + ".tra"));
+  lg.expectTranscript(__FILE__, "forms_prospects.txt");
 }
 
 }  // namespace
