@@ -8,6 +8,7 @@
 #include "support/team_files.h"
 #include "support/team_rosters.h"
 #include "team/roster_rules.h"
+#include "transactions/draft_picks.h"
 
 namespace kvl::test {
 namespace {
@@ -306,6 +307,44 @@ TEST(FormsCli, ProspectsActivated) {
               {"--yes", "view-prospects", "0", "--add", "Ann Ace", "--activate", "Ann Ace"}});  // her record is used
   lg.note("log: " + ReadAll(lg.path + ".tra"));
   lg.expectTranscript(__FILE__, "forms_prospects.txt");
+}
+
+// Three draft rounds; each team has $1,000,000 and a prospect; teams 2 and 3 have full rosters and
+// team 3 a full prospect list. Pick values: 5000 for this year's first round, a prospect 1750,
+// and $100 of cash a point.
+TEST(FormsCli, TradeOffice) {
+  LeaguePlan plan = StandardLeague(4);
+  plan.header.DraftRounds = 3;
+  plan.header.CurrentYear = 2026;
+  for (auto& t : plan.teams) t.CurFin = 1000000;
+  for (std::size_t t : {2, 3})
+    while (plan.rosters[t].size() < kRosterSlots) plan.rosters[t].push_back(MakePlayer("Filler", kDefence, 40, 0));
+  CliLeague lg(plan);
+  WriteFileAtomic(lg.path + ".dpk", EncodeRecords(std::vector{NewDraftPicks(0), NewDraftPicks(1), NewDraftPicks(2),
+                                                              NewDraftPicks(3)}));
+  for (std::size_t t = 0; t < 4; ++t)
+    Edit<ProspectList>(lg.path + ".pct", t + 1, [t](ProspectList& l) {
+      for (std::size_t i = 0; i < (t == 3 ? kMaxProspects : 1); ++i) l.Name[i].set(fmt::format("Prospect {}", i)), l.Age[i] = 18;
+    });
+  RunAll(lg, {{"trade", "0"},
+              {"trade", "0", "1", "--a-pick", "2027 Rnd 1 T00", "--assess"},
+              {"trade", "0", "1", "--a-pick", "2027 Rnd 1 T00", "--b-prospect", "0", "--b-cash", "325000", "--assess"},
+              {"trade", "0", "1", "--a-pick", "2027 Rnd 1 T00", "--b-prospect", "0", "--b-cash", "$345,000", "--assess"},
+              {"trade", "0", "1", "--a-cash", "-5"},
+              {"trade", "0", "1", "--a-cash", "lots"},
+              {"trade", "0", "1", "--a-cash", "3000000000"},
+              {"trade", "0", "1", "--a-cash", "2000000", "--assess"},
+              {"trade", "0", "1", "--a-player", "40"},
+              {"trade", "0", "1", "--a-prospect", "3"},
+              {"trade", "0", "1", "--a-pick", "60"},
+              {"trade", "2", "2", "--a-player", "0"},
+              {"trade", "2", "3", "--a-player", "0", "--a-prospect", "0", "--b-player", "0", "--b-player", "1"},
+              {"trade", "2", "3", "--a-player", "0", "--a-prospect", "0", "--b-player", "0"},
+              {"--yes", "trade", "2", "3", "--a-player", "0", "--b-player", "0"},
+              {"--yes", "trade", "0", "1", "--a-pick", "2027 Rnd 1 T00"},
+              {"edit-draft-picks", "0"},
+              {"trade", "1"}});
+  lg.expectTranscript(__FILE__, "forms_trade.txt");
 }
 
 }  // namespace
