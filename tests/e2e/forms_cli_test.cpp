@@ -65,7 +65,13 @@ TEST(FormsCli, PlayerAndTeamCards) {
               {"--yes", "view-team", "0", "--set", "Ticket=0"},
               {"view-team", "0"},
               {"view-team", "2"}});
-  Answered(lg, "no\nyes\nWinnipeg Jets\n\nno\n", {"view-team", "1", "--edit", "Name", "--edit", "Name", "--edit", "CurFin"});
+  // A prompt shows the field's value; an empty answer keeps it.
+  Answered(lg, "no\nyes\nWinnipeg Jets\n\n\n\n\n\n\n\n\n\n\nno\n",
+           {"view-team", "0", "--edit", "Name", "--edit", "Name", "--edit", "CurFin", "--edit", "Abbrev", "--edit", "Arena",
+            "--edit", "Seats", "--edit", "Ticket", "--edit", "Owner", "--edit", "Password", "--edit", "Email", "--edit",
+            "ICQ", "--edit", "FarmTeam"});
+  Answered(lg, "\n\n\n\nno\n", {"player", "0", "0", "--edit", "Salary", "--edit", "Pos", "--edit", "Birthplace",
+                                   "--edit", "Weight"});
   lg.expectTranscript(__FILE__, "forms_cards.txt");
 }
 
@@ -112,6 +118,7 @@ TEST(FormsCli, Coaches) {
   RunAll(lg, {{"--no", "delete-coach", "4"},
               {"--yes", "delete-coach", "4"},
               {"view-all-coaches"},
+              {"--no", "hire-coach", "0", "New Guy"},
               {"--yes", "hire-coach", "0", "New Guy"},
               {"view-coach", "0"}});
   lg.note("log: " + ReadAll(lg.path + ".tra"));
@@ -263,7 +270,7 @@ TEST(FormsCli, Rosters) {
               {"set-roster", "0", "--farm", "18"},
               {"set-roster", "0", "--scratch", "0", "--dress", "0"},  // sent down in this sitting: stays down
               {"--yes", "set-roster", "0", "--scratch", "1", "--release", "21"},
-              {"--yes", "set-roster", "1", "--release", "21"},
+              {"--yes", "set-roster", "1", "--dress", "18", "--release", "21"},
               {"free-agents"},
               {"--yes", "set-roster", "1", "--protect", "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "12", "13",
                "14", "15", "16", "19"},
