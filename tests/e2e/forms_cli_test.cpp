@@ -350,7 +350,12 @@ TEST(FormsCli, TradeOffice) {
               {"--yes", "trade", "2", "3", "--a-player", "0", "--b-player", "0"},
               {"--yes", "trade", "0", "1", "--a-pick", "2027 Rnd 1 T00"},
               {"edit-draft-picks", "0"},
-              {"trade", "1"}});
+              {"trade", "1"},
+              {"edit-draft-picks", "1", "--add", "2033 Rnd 1 T00"},
+              {"edit-draft-picks", "1", "--add", "2027 Rnd 10 T00"},
+              {"edit-draft-picks", "1", "--add", "2027 Rnd 1 T07"},
+              {"edit-draft-picks", "1", "--remove", "60"},
+              {"--no", "edit-draft-picks", "1", "--remove", "5"}});
   lg.expectTranscript(__FILE__, "forms_trade.txt");
 }
 
