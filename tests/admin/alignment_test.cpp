@@ -1,4 +1,6 @@
-// Aligning the league: adding, renaming, moving and deleting teams. A broken division list is the e2e tests'.
+// Deleting a team renumbers every file that names teams. Adding, renaming, moving, the divisions and
+// the limits are the forms transcript's (e2e/golden/forms_align.txt); a broken division list is the
+// e2e tests'.
 #include "admin/alignment.h"
 
 #include "support/kvl_test.h"
@@ -11,99 +13,6 @@ namespace {
 std::vector<u8> TeamsIn(const LeagueState& s, int conf, int div) {
   const Division& d = s.league.Conf[std::size_t(conf)].Div[std::size_t(div)];
   return std::vector<u8>(d.Team.begin(), d.Team.begin() + d.NumTeams);
-}
-
-struct Align : ::testing::Test {
-  void SetUp() override { h.load(StandardLeague(4)); }
-  Harness h;
-};
-
-// The new team's files and a save and load are the league creation tests' (AddTeam).
-TEST_F(Align, AddPlacesANewBlankTeamLastAndNothingOnAnEmptyOrCancelledName) {
-  League before = h.state.league;
-  h.ui.push("");
-  EXPECT_FALSE(AlignLeague(h.state).cmdAdd(0, 0));
-  EXPECT_FALSE(AlignLeague(h.state).cmdAdd(0, 0));  // queue empty: the prompt is cancelled
-  EXPECT_EQ(EncodeRecord(h.state.league), EncodeRecord(before));
-  EXPECT_FALSE(h.state.Dirty);
-  h.ui.push("Saskatoon Blades");
-  ASSERT_TRUE(AlignLeague(h.state).cmdAdd(1, 0));
-  ASSERT_EQ(h.state.numTeams(), 5);
-  const Team& t = h.state.team(4);
-  EXPECT_EQ(t.Name.raw(), "Saskatoon ");  // first ten characters
-  EXPECT_EQ((std::array{int(t.Conf), int(t.Div), int(t.Priority)}), (std::array{1, 0, 4}));
-  EXPECT_EQ((std::array{t.CurFin, int(t.Seats), t.W[0] + t.L[0] + t.T[0], int(t.CoachRec)}), (std::array{0, 0, 0, 0}));
-  EXPECT_EQ(TeamsIn(h.state, 1, 0), (std::vector<u8>{2, 4}));
-  EXPECT_EQ(ReadFileBytes(h.state.swap(swp::Priority)), (Bytes{0, 1, 2, 3, 4}));
-}
-
-// StandardLeague deals teams round the four divisions, so 40 fill all of them.
-TEST(AlignLimits, AddsBeyondTheLimitsAreToldBeforeTheNameIsAsked) {
-  Harness h;
-  h.load(StandardLeague(40));
-  h.ui.push("Never");
-  const League before = h.state.league;
-  for (auto [conf, div, text] : {std::tuple{0, 0, "DIV 1 already holds 10 teams, the most a division can."},
-                                 {1, 2, "CONF 2 has 2 divisions: there is no division 3."}}) {
-    EXPECT_THROW(AlignLeague(h.state).cmdAdd(conf, div), Refused);
-    EXPECT_TRUE(h.ui.told(text, "Align League")) << h.ui.calls().back().text;
-  }
-  EXPECT_EQ(EncodeRecord(h.state.league), EncodeRecord(before));
-  EXPECT_EQ(h.ui.pending(), 1u) << "the name is never asked";
-  EXPECT_THROW(AlignLeague(h.state).MoveTeam(1, 0, 0), Refused) << "into a full division";
-  EXPECT_EQ(h.state.team(1).Div, 1);
-  for (int conf = 0; conf < 2; ++conf) AlignLeague(h.state).ChangeDivisions(conf, 3);
-  for (int i = 0; i < 10; ++i) ASSERT_TRUE(AlignLeague(h.state).cmdAdd(i % 2, 2, "X" + std::to_string(i)));
-  EXPECT_THROW(AlignLeague(h.state).cmdAdd(0, 2, std::string("Y")), Refused);
-  EXPECT_TRUE(h.ui.told("A league holds at most 50 teams.", "Align League"));
-  EXPECT_EQ(h.state.numTeams(), 50);
-}
-
-TEST_F(Align, RenamesAreCutToTheFieldWidthAndExpansionMarksAndClears) {
-  h.ui.push("Western Conference");
-  h.ui.push("Pacific Northwest");
-  AlignLeague a(h.state);
-  ASSERT_TRUE(a.cmdRenameConf(1));
-  ASSERT_TRUE(a.cmdRenameDiv(1, 1));
-  EXPECT_EQ(h.state.league.Conf[1].Name.raw(), "Western Conf");
-  EXPECT_EQ(h.state.league.Conf[1].Div[1].Name.raw(), "Pacific No");
-  EXPECT_FALSE(a.cmdRenameConf(0));  // cancelled
-  EXPECT_EQ(h.state.league.Conf[0].Name.str(), "CONF 1");
-  a.Expansion(2);
-  EXPECT_EQ(h.state.team(2).Expansion, 1);
-  EXPECT_NE(a.Listing().find("Team2  (expansion)"), std::string::npos);
-  a.Expansion(2, false);
-  EXPECT_EQ(h.state.team(2).Expansion, 0);
-}
-
-TEST_F(Align, MoveAsksThenUpdatesListsAndCounts) {
-  h.ui.push("no");
-  EXPECT_FALSE(AlignLeague(h.state).MoveTeam(0, 1, 1));
-  EXPECT_EQ(TeamsIn(h.state, 0, 0), std::vector<u8>{0});
-  h.ui.push("yes");
-  ASSERT_TRUE(AlignLeague(h.state).MoveTeam(0, 1, 1));
-  EXPECT_EQ(TeamsIn(h.state, 0, 0), std::vector<u8>{});
-  EXPECT_EQ(TeamsIn(h.state, 1, 1), (std::vector<u8>{3, 0}));
-  EXPECT_EQ((std::array{int(h.state.team(0).Conf), int(h.state.team(0).Div)}), (std::array{1, 1}));
-}
-
-TEST_F(Align, DivisionsAreLoweredOnlyWhenTheDroppedOnesAreEmpty) {
-  AlignLeague a(h.state);
-  a.ChangeDivisions(0, 4);
-  EXPECT_EQ(h.state.league.Conf[0].NumDivs, 4);
-  EXPECT_EQ(h.state.league.Conf[0].Div[2].Name.raw(), "NewDiv    ");
-  a.ChangeDivisions(0, 2);
-  EXPECT_EQ(h.state.league.Conf[0].NumDivs, 2);
-  EXPECT_TRUE(h.ui.callsOf("tell").empty());
-  EXPECT_THROW(a.ChangeDivisions(1, 1), Refused);
-  EXPECT_TRUE(
-      h.ui.told("You cannot reduce the number of divisions per conference until\n"
-                "the following teams have been pulled out of thie respective divisions:\n"
-                "Team3->DIV 2\n",
-                "Unable to reduce division count"));
-  EXPECT_EQ(h.state.league.Conf[1].NumDivs, 2);
-  EXPECT_THROW(a.ChangeDivisions(0, 5), Refused);
-  EXPECT_EQ(h.state.league.Conf[0].NumDivs, 2);
 }
 
 constexpr int kTeams = 6;

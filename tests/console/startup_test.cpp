@@ -1,5 +1,5 @@
-// Start-up: the home folder and the search for a league to open. The one-copy lock and a
-// missing league file at start-up are the e2e tests'.
+// Start-up: the home folder and the search for a league to open. The one-copy lock, a missing
+// league file and a damaged league at start-up are the e2e tests' (golden/bad_input.txt).
 #include "console/startup.h"
 
 #include <fstream>
@@ -79,16 +79,6 @@ TEST(StartUp, OpensTheLastLeagueTheOneGivenOrNone) {
   WriteDef(h.home, (h.dir.path() / "deleted").string());
   StartUp(h.state, std::nullopt);
   EXPECT_FALSE(h.state.hasLeague()) << "nothing found: no league is open";
-}
-
-TEST(StartUp, ADamagedLeagueIsAnUnexpectedError) {
-  Harness h;
-  std::string live = test::WriteLeagueIn(h, StandardLeague(8), false);
-  fs::resize_file(live + ".lge", 100);
-  WriteDef(h.home, live);
-  EXPECT_THROW(StartUp(h.state, std::nullopt), KvlError);
-  EXPECT_TRUE(h.ui.told("An unexpected error occurred in the initialization of KVL.", "Load League"));
-  EXPECT_FALSE(h.state.hasLeague());
 }
 
 }  // namespace

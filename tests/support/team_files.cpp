@@ -1,21 +1,8 @@
 #include "support/team_files.h"
 
-#include <fstream>
-
-#include "league/league_files.h"
 #include "support/league_fixture.h"
 
 namespace kvl::test {
-
-std::vector<std::string> TransactionLines(const LeagueState& s) {
-  std::ifstream in(s.swap(swp::Transactions), std::ios::binary);
-  std::vector<std::string> out;
-  for (std::string line; std::getline(in, line);) {
-    if (!line.empty() && line.back() == '\r') line.pop_back();
-    out.push_back(line);
-  }
-  return out;
-}
 
 void HireStandardCoaches(LeaguePlan& plan) {
   for (std::size_t t = 0; t < plan.teams.size(); ++t) {

@@ -122,13 +122,6 @@ TEST(LineTableTest, RemovingAPlayerLeavesTheGoalieRowsLastSlot) {
   EXPECT_FALSE(RemoveFromLines(t, 8));
 }
 
-// Row and slot labels are the line editor's assignments test's.
-TEST(LineTableTest, Captions) {
-  EXPECT_EQ(RowCaption(9), "PK Line 2 (4 on 5)");
-  EXPECT_EQ(RowCaption(10), "PK Line 1 (3 on 5)");
-  EXPECT_EQ(RowCaption(11), "PK Line 2 (4 on 5)");
-}
-
 TEST(LineTransferTest, StoresTheTableWithUnusedSlotsEmptiedAndSaves) {
   Harness h;
   h.load(StandardLeague(2));

@@ -1,11 +1,10 @@
-// Draft picks: the fresh set, sorting, and the form that edits a team's picks. Kept edits
-// written in order are the e2e tests'.
+// Draft picks: the fresh set and sorting. The form that edits a team's picks is the forms
+// transcript's (e2e/golden/forms_trade.txt) and the demo's.
 #include "transactions/draft_picks.h"
 
 #include <algorithm>
 
 #include "support/kvl_test.h"
-#include "transactions/draft_pick_editor.h"
 
 namespace kvl::test {
 namespace {
@@ -66,39 +65,6 @@ TEST(DraftPicks, SortDropsTradedYearsAndKeepsTheOldOrderWithinARound) {
   EXPECT_EQ((std::array{int(sorted.Pick[2].OrigTeam), int(sorted.Pick[3].OrigTeam), int(sorted.Pick[4].OrigTeam),
                         int(sorted.Pick[5].Round), int(tail.CurrentYear), int(tail.Round), int(tail.OrigTeam)}),
             (std::array{2, 5, 6, 2, 5, 8, 7}));
-}
-
-struct PickEditor : ::testing::Test {
-  test::Harness h;
-  void SetUp() override {
-    test::LeaguePlan plan = test::StandardLeague(4);
-    plan.header.CurrentYear = 2026;
-    h.load(plan);
-    MakeDraftPicks(h.state);
-  }
-};
-
-TEST_F(PickEditor, ANoOrABadPickChangesNothing) {
-  DraftPickEditor form(h.state, 1);
-  struct Row {
-    int year, round, team;
-    const char* told;
-  };
-  const Row bad[] = {
-      {6, 0, 0, "Draft picks of Team1: draft 2033 is outside the next six drafts."},
-      {0, 9, 0, "Draft picks of Team1: round 10 is outside rounds 1 to 9."},
-      {0, 0, 4, "Draft picks of Team1: team 4 is outside the league's teams."},
-  };
-  for (const Row& b : bad) {
-    EXPECT_FALSE(form.cmdAdd(b.year, b.round, b.team));
-    EXPECT_TRUE(h.ui.told(b.told, "Edit Draft Picks")) << b.told;
-  }
-  EXPECT_FALSE(form.cmdRemove(60)) << "no pick there";
-  EXPECT_FALSE(form.Changed);
-  ASSERT_TRUE(form.cmdRemove(5));
-  h.ui.push("no");
-  EXPECT_FALSE(form.cmdExit());
-  EXPECT_EQ(ReadDraftPicks(h.state, 1).Pick[5].Active, kTrue);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
-// The entry draft with its lottery, and the expansion draft. The picks of later years coming a year
-// nearer after a whole draft, and the pages, are the e2e tests'.
+// The entry draft with its lottery, and the expansion draft. A draft continued after a save and a
+// load to its end, the picks of later years coming a year nearer, and the pages, are the e2e tests'
+// (golden/drafts.txt).
 #include "transactions/entry_draft.h"
 
 #include <fstream>
@@ -152,29 +153,6 @@ TEST(EntryDraft, RefusedPicksChangeNothing) {
   EXPECT_TRUE(d.h.ui.told("No room on roster", kTitle));
   EXPECT_EQ(form.turn().overall, 2) << "the turn stays";
   EXPECT_EQ(form.cmdAuto(1), 1) << "auto goes to the prospect list";
-}
-
-TEST(EntryDraft, ContinuesAfterASaveAndALoadThenTurnsThePicksOver) {
-  Draft d;
-  ASSERT_TRUE(d.begin(40));
-  DraftNew(d.h.state).cmdAuto(5);
-  const std::string path = (d.h.home / "draft").string();
-  SaveLg(d.h.state);
-  d.h.state.leagueLock.release();
-
-  test::Harness again;
-  LoadLg(again.state, path);
-  again.ui.push("yes");
-  ASSERT_TRUE(ConEntryDraft(again.state));
-  DraftNew form(again.state);
-  EXPECT_EQ(form.turn().overall, 6);
-  EXPECT_EQ(form.picks().size(), 5u);
-  EXPECT_EQ(form.cmdAuto(100), 11) << "two rounds of eight";
-  EXPECT_FALSE(again.state.league.EntryDraftOn);
-  EXPECT_TRUE(again.ui.told("Draft Complete", kTitle));
-  for (int t = 0; t < 8; ++t)
-    EXPECT_EQ(ReadDraftPicks(again.state, t).Pick[1].OrigTeam, t) << "sorted: this year's first round first";
-  EXPECT_EQ(again.state.league.CurrentYear, d.h.state.league.CurrentYear) << "the year turns with the season";
 }
 
 constexpr const char* kExpansionTitle = "Expansion Draft";
