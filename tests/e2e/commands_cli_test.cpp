@@ -24,21 +24,20 @@ std::string Listing(const fs::path& dir) {
 
 TEST(Commands, AlignmentOptionsAndCards) {
   CliLeague lg(StandardLeague(8), "lg");
-  for (auto args : std::vector<std::vector<std::string>>{{"align", "divisions", "1", "1"},
-                                                        {"align", "add", "3", "1", "Expo"},
-                                                        {"align", "move", "Nowhere", "1", "1"},
-                                                        {"options", "--set", "ShotsLevel=12"},
-                                                        {"player", "0", "30"},
-                                                        {"view-team", "0", "--set", "Colour=red"},
-                                                        {"--yes", "align", "delete", "Team2"},
-                                                        {"--yes", "options", "--set", "ShotsLevel=7", "OptMoney=on"},
-                                                        {"--yes", "player", "2", "0", "--set", "Weight=210"},
-                                                        {"--yes", "view-team", "T03", "--set", "Ticket=55"},
-                                                        {"info"},
-                                                        {"options"},
-                                                        {"player", "2", "0"},  // old team 3 is team 2 now
-                                                        {"view-team", "2"}})
-    lg.kvl(args);
+  lg.kvlEach({{"align", "divisions", "1", "1"},
+              {"align", "add", "3", "1", "Expo"},
+              {"align", "move", "Nowhere", "1", "1"},
+              {"options", "--set", "ShotsLevel=12"},
+              {"player", "0", "30"},
+              {"view-team", "0", "--set", "Colour=red"},
+              {"--yes", "align", "delete", "Team2"},
+              {"--yes", "options", "--set", "ShotsLevel=7", "OptMoney=on"},
+              {"--yes", "player", "2", "0", "--set", "Weight=210"},
+              {"--yes", "view-team", "T03", "--set", "Ticket=55"},
+              {"info"},
+              {"options"},
+              {"player", "2", "0"},  // old team 3 is team 2 now
+              {"view-team", "2"}});
   lg.expectTranscript(__FILE__, "admin.txt");
 }
 
@@ -51,19 +50,18 @@ TEST(Commands, RostersLinesAndCoaches) {
     plan.rosters[0][0].Status = 102;  // an injured scratch
     return plan;
   }());
-  for (auto args : std::vector<std::vector<std::string>>{{"--yes", "set-roster", "0", "--dress", "0"},
-                                                        {"--yes", "set-roster", "0", "--farm", "0"},
-                                                        {"--yes", "set-lines", "1", "--place", "E1:0=0"},
-                                                        {"--yes", "set-lines", "1", "--place", "E1:0=19"},
-                                                        {"--yes", "set-lines", "1", "--place", "X9:0=1"},
-                                                        {"--yes", "set-roster", "9"},
-                                                        {"set-roster", "0"},
-                                                        {"--yes", "hire-coach", "Team2", "Coach 1"},
-                                                        {"--yes", "hire-coach", "3", "2"},
-                                                        {"view-coach", "2"},
-                                                        {"--yes", "fire-coach", "2"},
-                                                        {"--yes", "fire-coach", "2"}})
-    refused.kvl(args);
+  refused.kvlEach({{"--yes", "set-roster", "0", "--dress", "0"},
+                   {"--yes", "set-roster", "0", "--farm", "0"},
+                   {"--yes", "set-lines", "1", "--place", "E1:0=0"},
+                   {"--yes", "set-lines", "1", "--place", "E1:0=19"},
+                   {"--yes", "set-lines", "1", "--place", "X9:0=1"},
+                   {"--yes", "set-roster", "9"},
+                   {"set-roster", "0"},
+                   {"--yes", "hire-coach", "Team2", "Coach 1"},
+                   {"--yes", "hire-coach", "3", "2"},
+                   {"view-coach", "2"},
+                   {"--yes", "fire-coach", "2"},
+                   {"--yes", "fire-coach", "2"}});
   refused.note("log: " + ReadAll(refused.path + ".tra"));
   ExpectGolden(__FILE__, "team.txt", lg.transcript + refused.transcript);
 }
@@ -74,19 +72,17 @@ TEST(Commands, LinesFilesProspectsAndTheDatabase) {
   CliLeague lg(plan);
   const std::string dir = fs::path(lg.path).parent_path().string();
   WriteText(dir + "/bad.txt", "99,2,3\r\n");
-  for (auto args : std::vector<std::vector<std::string>>{
-           {"--yes", "set-lines", "0", "--auto"},
-           {"save-lines", "0", dir + "/Team0", "--password", "pw"},
-           {"--yes", "load-lines", "Team0", dir + "/Team0.lns"},
-           {"--yes", "load-lines", "Team1", dir + "/Team0.lns"},
-           {"--yes", "load-lines", "0", dir + "/bad.txt"},
-           {"--yes", "auto-load-lines"},
-           {"--yes", "set-roster", "0", "--add", "New Guy", "--add-pos", "D", "--name", "22=Renamed"},
-           {"--yes", "view-prospects", "1", "--add", "Kid Prospect", "--activate", "1", "--manual", ""},
-           {"--yes", "player-database", "--output"},
-           {"player-database", dir + "/bad.txt", "--list"},
-           {"set-roster", "0"}})
-    lg.kvl(args);
+  lg.kvlEach({{"--yes", "set-lines", "0", "--auto"},
+              {"save-lines", "0", dir + "/Team0", "--password", "pw"},
+              {"--yes", "load-lines", "Team0", dir + "/Team0.lns"},
+              {"--yes", "load-lines", "Team1", dir + "/Team0.lns"},
+              {"--yes", "load-lines", "0", dir + "/bad.txt"},
+              {"--yes", "auto-load-lines"},
+              {"--yes", "set-roster", "0", "--add", "New Guy", "--add-pos", "D", "--name", "22=Renamed"},
+              {"--yes", "view-prospects", "1", "--add", "Kid Prospect", "--activate", "1", "--manual", ""},
+              {"--yes", "player-database", "--output"},
+              {"player-database", dir + "/bad.txt", "--list"},
+              {"set-roster", "0"}});
   lg.expectTranscript(__FILE__, "lines.txt");
 }
 
@@ -94,10 +90,7 @@ TEST(Commands, ScheduleMadeReviewedAndRefused) {
   CliLeague lg(AlignedLeague({{6, 6}, {6, 6}}), "test", kSeed);
   lg.kvl({"--yes", "make-schedule", "--tries", "20"});
   EXPECT_EQ(ReadSchedule(lg.path + ".scx").size(), 792u) << "saved over the league's files";
-  for (auto args : std::vector<std::vector<std::string>>{{"review-schedule", "--day", "1"},
-                                                        {"review-schedule", "--day", "5000"},
-                                                        {"make-schedule", "--help"}})
-    lg.kvl(args);
+  lg.kvlEach({{"review-schedule", "--day", "1"}, {"review-schedule", "--day", "5000"}, {"make-schedule", "--help"}});
   std::string transcript = lg.transcript;
   struct Case {
     LeaguePlan plan;
@@ -124,13 +117,11 @@ TEST(Commands, ScheduleMadeReviewedAndRefused) {
 TEST(Commands, ExhibitionAndProfileChangeNothing) {
   CliLeague lg(SimLeague(4), "test", kSeed);
   Bytes roster = ReadFileBytes(lg.path + ".ros");
-  for (auto args : std::vector<std::vector<std::string>>{
-           {"exhibition", "0", "Team1"},
-           {"exhibition", "T00", "1"},
-           {"exhibition", "0", "Nobody"},
-           {"sim-profile", "--games", "20", "--pair", "0", "1", "--shots-level", "7", "--goals-level", "3"},
-           {"sim-profile", "--shots-level", "10"}})
-    lg.kvl(args);
+  lg.kvlEach({{"exhibition", "0", "Team1"},
+              {"exhibition", "T00", "1"},
+              {"exhibition", "0", "Nobody"},
+              {"sim-profile", "--games", "20", "--pair", "0", "1", "--shots-level", "7", "--goals-level", "3"},
+              {"sim-profile", "--shots-level", "10"}});
   const fs::path transfer = lg.home / "Transfer";
   EXPECT_EQ(ReadFileBytes(transfer / "testex1.html"), ReadFileBytes(transfer / "testex2.html"));
   EXPECT_EQ(ReadFileBytes(lg.path + ".ros"), roster);
@@ -140,16 +131,14 @@ TEST(Commands, ExhibitionAndProfileChangeNothing) {
 TEST(Commands, PagesHeadersAndFooters) {
   CliLeague lg(SimLeague(4));
   WriteText(lg.dir.path() / "head.html", "<P>Our league</P>\n<HR>\n");
-  for (auto args : std::vector<std::vector<std::string>>{
-           {"--no", "output-html", "--pages", "standings,14"},
-           {"output-html", "--pages", "standings,nope"},
-           {"output-html", "--pages", "17"},
-           {"edit-header", "17"},
-           {"edit-footer", "-1"},
-           {"edit-footer", "2x"},
-           {"edit-header", "20", "--from", (lg.dir.path() / "head.html").string()},
-           {"edit-header", "20", "--show"}})
-    lg.kvl(args);
+  lg.kvlEach({{"--no", "output-html", "--pages", "standings,14"},
+              {"output-html", "--pages", "standings,nope"},
+              {"output-html", "--pages", "17"},
+              {"edit-header", "17"},
+              {"edit-footer", "-1"},
+              {"edit-footer", "2x"},
+              {"edit-header", "20", "--from", (lg.dir.path() / "head.html").string()},
+              {"edit-header", "20", "--show"}});
   lg.note("Transfer: " + Listing(lg.home / "Transfer"));
   EXPECT_EQ(ReadAll(lg.home / "Headers" / "test.hd20"), "<P>Our league</P>\r\n<HR>\r\n");
   lg.expectTranscript(__FILE__, "pages.txt");

@@ -30,10 +30,7 @@ struct DemoCopy : CliLeague {
   Snapshot files() const { return SnapshotDir(home, fs::path(path).filename().string() + "."); }
   template <class R, class F>
   void edit(const std::string& ext, std::size_t n, F change) {
-    RecordFile f(path + ext, R::kSize);
-    R r = f.getRecord<R>(n);
-    change(r);
-    f.putRecord(n, r);
+    EditRecord<R>(path + ext, n, change);
   }
 };
 
@@ -68,12 +65,14 @@ TEST(DemoCli, ATradeShowsEverywhereAndSavesAsItLoads) {
   lg.edit<Team>(".tms", 1, [](Team& t) { t.CurFin = 500000; });
   lg.edit<Player>(".ros", 1, [](Player& p) { p.GP = 10, p.G = 4; });
   const std::string pick = FirstPick(lg.kvl({"trade", "0"}).out);
-  lg.kvl({"--yes", "trade", "0", "1", "--a-player", "0", "--a-player", "1", "--a-prospect", "Young Hopeful",
-          "--a-pick", pick, "--a-cash", "200000", "--b-player", "2"});
-  for (auto args : std::vector<std::vector<std::string>>{
-           {"set-roster", "0"}, {"set-roster", "1"}, {"view-prospects", "1"}, {"view-team", "0"}, {"view-team", "1"},
-           {"edit-draft-picks", "1"}})
-    lg.kvl(args);
+  lg.kvl({"--yes", "trade", "0", "1", "--a-player", "0", "--a-player", "1", "--a-prospect", "Young Hopeful", "--a-pick",
+          pick, "--a-cash", "200000", "--b-player", "2"});
+  lg.kvlEach({{"set-roster", "0"},
+              {"set-roster", "1"},
+              {"view-prospects", "1"},
+              {"view-team", "0"},
+              {"view-team", "1"},
+              {"edit-draft-picks", "1"}});
   const std::string log = ReadAll(lg.path + ".tra");
   lg.note("the log ends: " + log.substr(log.rfind("<BR><BR>\r\n") + 10));
   RecordFile csr(lg.path + ".csr", CareerRecord::kSize);
@@ -89,8 +88,8 @@ TEST(DemoCli, ATradeShowsEverywhereAndSavesAsItLoads) {
 TEST(DemoCli, EditedPicksAndTheDeadline) {
   DemoCopy lg("DemoNext");
   const std::string pick = FirstPick(lg.kvl({"trade", "0"}).out);
-  const std::string other = pick.substr(0, pick.rfind(' ')) + " " +
-                            RecordFile(lg.path + ".tms", Team::kSize).getRecord<Team>(2).Abbrev.str();
+  const std::string other =
+      pick.substr(0, pick.rfind(' ')) + " " + RecordFile(lg.path + ".tms", Team::kSize).getRecord<Team>(2).Abbrev.str();
   lg.kvl({"--yes", "edit-draft-picks", "0", "--remove", pick, "--add", other});
   lg.kvl({"--yes", "edit-draft-picks", "0", "--add", "2 Rnd 10 " + other.substr(other.rfind(' ') + 1)});
   lg.kvl({"trade", "0"});
@@ -114,13 +113,12 @@ TEST(DemoCli, AnEntryDraftThenAnExpansionTeamStockedAndScheduled) {
   std::string list;
   RecordFile db(lg.path + ".drs", DbRecord::kSize);
   for (std::size_t n = 1, left = 100; n <= db.count() && left > 0; ++n)
-    if (const DbRecord r = db.getRecord<DbRecord>(n); r.DbFlag == 0 && !r.P.empty()) list += r.P.Name.str() + "\n", --left;
+    if (const DbRecord r = db.getRecord<DbRecord>(n); r.DbFlag == 0 && !r.P.empty())
+      list += r.P.Name.str() + "\n", --left;
   WriteText(lg.dir.path() / "list.txt", list + "Nobody Atall\n");
-  for (auto args : std::vector<std::vector<std::string>>{
-           {"--yes", "entry-draft", "--list", (lg.dir.path() / "list.txt").string()},
-           {"--yes", "entry-draft", "--auto", "3"},
-           {"--yes", "continue-entry-draft", "--auto", "1000"}})
-    lg.kvl(args);
+  lg.kvlEach({{"--yes", "entry-draft", "--list", (lg.dir.path() / "list.txt").string()},
+              {"--yes", "entry-draft", "--auto", "3"},
+              {"--yes", "continue-entry-draft", "--auto", "1000"}});
 
   Harness after;
   LoadLg(after.state, lg.path);
@@ -131,7 +129,8 @@ TEST(DemoCli, AnEntryDraftThenAnExpansionTeamStockedAndScheduled) {
   EXPECT_EQ(made, static_cast<std::size_t>(teams * rounds));
   // Every pick of a later year came a year nearer; a new year was added.
   auto count = [](const DraftPickRecord& r, int y) {
-    return std::count_if(r.Pick.begin(), r.Pick.end(), [&](const DraftPick& p) { return p.Active && p.CurrentYear == y; });
+    return std::count_if(r.Pick.begin(), r.Pick.end(),
+                         [&](const DraftPick& p) { return p.Active && p.CurrentYear == y; });
   };
   for (int t = 0; t < teams; ++t)
     for (int year = 0; year < kPickYears; ++year)
@@ -141,12 +140,11 @@ TEST(DemoCli, AnEntryDraftThenAnExpansionTeamStockedAndScheduled) {
   const std::string page = ReadAll(lg.home / "Transfer" / "DemoReratedEntryDraft.html");
   EXPECT_NE(page.find("<H3>Round " + std::to_string(rounds) + "</H3>"), std::string::npos) << page.substr(0, 200);
 
-  for (auto args : std::vector<std::vector<std::string>>{{"--yes", "align", "add", "1", "1", "Newport"},
-                                                        {"--yes", "align", "expansion", "Newport"},
-                                                        {"--yes", "make-schedule"},  // an empty expansion team
-                                                        {"--yes", "expansion-draft", "--auto", "--output"},
-                                                        {"--yes", "make-schedule"}})
-    lg.kvl(args);
+  lg.kvlEach({{"--yes", "align", "add", "1", "1", "Newport"},
+              {"--yes", "align", "expansion", "Newport"},
+              {"--yes", "make-schedule"},  // an empty expansion team
+              {"--yes", "expansion-draft", "--auto", "--output"},
+              {"--yes", "make-schedule"}});
   EXPECT_TRUE(fs::exists(lg.home / "Transfer" / "DemoReratedExpansionDraft.html"));
   lg.expectTranscript(__FILE__, "drafts.txt");
 }

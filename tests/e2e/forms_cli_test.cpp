@@ -13,32 +13,9 @@
 namespace kvl::test {
 namespace {
 
-using Runs = std::vector<std::vector<std::string>>;
-
 std::vector<std::string> Concat(std::vector<std::string> a, const std::vector<std::string>& b) {
   a.insert(a.end(), b.begin(), b.end());
   return a;
-}
-
-void RunAll(CliLeague& lg, const Runs& runs) {
-  for (const auto& args : runs) lg.kvl(args);
-}
-
-// A run whose questions and prompts take `answers`, one a line, from an answers file.
-void Answered(CliLeague& lg, const std::string& answers, std::vector<std::string> args) {
-  const fs::path file = lg.dir.path() / "answers.txt";
-  WriteText(file, answers);
-  args.insert(args.begin(), {"--answers", file.string()});
-  lg.kvl(args);
-}
-
-// Changes record `n` of a written league file.
-template <class R, class F>
-void Edit(const std::string& file, std::size_t n, F change) {
-  RecordFile f(file, R::kSize);
-  R r = f.getRecord<R>(n);
-  change(r);
-  f.putRecord(n, r);
 }
 
 // Slot 0 a centre, 19 a goalie; each edit stores what fits its field and drops the rest.
@@ -50,7 +27,7 @@ TEST(FormsCli, PlayerAndTeamCards) {
   roster[2].Suspended = 3;
   for (Player& p : plan.rosters[2]) p.Status = p.Status ? 100 : 0;  // nobody dressed: no revenue
   CliLeague lg(plan);
-  RunAll(lg, {{"--no", "player", "0", "0", "--set", "Contract=4", "Height=74", "Num=99", "GW=3", "Salary=750000",
+  lg.kvlEach({{"--no", "player", "0", "0", "--set", "Contract=4", "Height=74", "Num=99", "GW=3", "Salary=750000",
                "Spd=77", "Ldr=255", "Weight=300", "Pos=rw", "Status=103", "Birthplace=Sweden", "--hand", "--rookie"},
               {"--yes", "player", "0", "0", "--set", "Salary=-5", "Weight=", "Pos=7", "Age=31", "--release"},
               {"player", "0", "0"},
@@ -66,29 +43,29 @@ TEST(FormsCli, PlayerAndTeamCards) {
               {"view-team", "0"},
               {"view-team", "2"}});
   // A prompt shows the field's value; an empty answer keeps it.
-  Answered(lg, "no\nyes\nWinnipeg Jets\n\n\n\n\n\n\n\n\n\n\nno\n",
-           {"view-team", "0", "--edit", "Name", "--edit", "Name", "--edit", "CurFin", "--edit", "Abbrev", "--edit", "Arena",
-            "--edit", "Seats", "--edit", "Ticket", "--edit", "Owner", "--edit", "Password", "--edit", "Email", "--edit",
-            "ICQ", "--edit", "FarmTeam"});
-  Answered(lg, "\n\n\n\nno\n", {"player", "0", "0", "--edit", "Salary", "--edit", "Pos", "--edit", "Birthplace",
-                                   "--edit", "Weight"});
+  lg.answered("no\nyes\nWinnipeg Jets\n\n\n\n\n\n\n\n\n\n\nno\n",
+              {"view-team", "0",        "--edit", "Name",   "--edit", "Name",   "--edit", "CurFin",  "--edit",
+               "Abbrev",    "--edit",   "Arena",  "--edit", "Seats",  "--edit", "Ticket", "--edit",  "Owner",
+               "--edit",    "Password", "--edit", "Email",  "--edit", "ICQ",    "--edit", "FarmTeam"});
+  lg.answered("\n\n\n\nno\n",
+              {"player", "0", "0", "--edit", "Salary", "--edit", "Pos", "--edit", "Birthplace", "--edit", "Weight"});
   lg.expectTranscript(__FILE__, "forms_cards.txt");
 }
 
 // Numbers out of their field's range keep the old value; a draft of more than 255 picks is cut.
 TEST(FormsCli, Options) {
   CliLeague lg(StandardLeague(29));
-  RunAll(lg, {{"--yes", "options", "--set", "DraftRounds=9", "TradeDeadline=256", "UnresAge=31.5", "AgeExempt=abc",
-               "MinGP=0", "CurrentYear=40000", "OptFarmStreaks=yes", "OutputPage16=on", "OutputPage1=off",
-               "OutputDir=/home/commissioner/league/pages", "RootDir=/kvl", "PlayoffTree=0",
-               "LinesDirectory=  /srv/lines  "},
-              {"--yes", "options", "--set", "TradeDeadline=-1", "UnresAge=28.5", "CurrentYear=-3", "PlayoffTree=1",
-               "LinesDirectory=/srv/lines/", "DraftRounds=8"},
-              {"--yes", "options", "--set", "TradeDeadline=255"},
-              {"options", "--set", "GoalsLevel=0"},
-              {"options", "--set", "PlayoffSize="},
-              {"options", "--set", "OptMoney=maybe"},
-              {"options", "--set", "Overtime=on"}});
+  lg.kvlEach(
+      {{"--yes", "options", "--set", "DraftRounds=9", "TradeDeadline=256", "UnresAge=31.5", "AgeExempt=abc", "MinGP=0",
+        "CurrentYear=40000", "OptFarmStreaks=yes", "OutputPage16=on", "OutputPage1=off",
+        "OutputDir=/home/commissioner/league/pages", "RootDir=/kvl", "PlayoffTree=0", "LinesDirectory=  /srv/lines  "},
+       {"--yes", "options", "--set", "TradeDeadline=-1", "UnresAge=28.5", "CurrentYear=-3", "PlayoffTree=1",
+        "LinesDirectory=/srv/lines/", "DraftRounds=8"},
+       {"--yes", "options", "--set", "TradeDeadline=255"},
+       {"options", "--set", "GoalsLevel=0"},
+       {"options", "--set", "PlayoffSize="},
+       {"options", "--set", "OptMoney=maybe"},
+       {"options", "--set", "Overtime=on"}});
   EXPECT_EQ(ReadAll(lg.home / "LinesDirectory.txt"), "/srv/lines/\r\n");
   Harness h;
   LoadLg(h.state, lg.path);
@@ -110,12 +87,12 @@ TEST(FormsCli, Coaches) {
     lg.kvl(Concat({answer, "edit-coach", "1"}, edits));
     lg.kvl({"view-all-coaches"});
   }
-  RunAll(lg, {{"--yes", "edit-coach", "Coach 3", "--salary", "1"},
+  lg.kvlEach({{"--yes", "edit-coach", "Coach 3", "--salary", "1"},
               {"--yes", "edit-coach", "2", "--of", "90", "--df", "80"},
               {"view-coach", "1"}});
-  Answered(lg, "New Guy\n101\n100\n49\n60\n70\n80\n40000\n50000\n", {"--yes", "create-coach"});
+  lg.answered("New Guy\n101\n100\n49\n60\n70\n80\n40000\n50000\n", {"--yes", "create-coach"});
   lg.kvl({"--yes", "create-coach", "--name", "Quitter", "--of", "70"});  // the next prompt is cancelled
-  RunAll(lg, {{"--no", "delete-coach", "4"},
+  lg.kvlEach({{"--no", "delete-coach", "4"},
               {"--yes", "delete-coach", "4"},
               {"view-all-coaches"},
               {"--no", "hire-coach", "0", "New Guy"},
@@ -137,7 +114,7 @@ TEST(FormsCli, PlayerDatabase) {
     records.push_back({static_cast<i16>(i % 2 ? 0 : -1), MakePlayer("P" + std::to_string(i), i % 5, 40 + i)});
   records[2].P.Pos = 7, records[2].P.Hand = 0, records[2].P.rating(kSco) = 255;
   WriteFileAtomic(file, EncodeRecords(records));
-  RunAll(lg, {{"player-database", file, "--list", "--show", "3"},
+  lg.kvlEach({{"player-database", file, "--list", "--show", "3"},
               {"player-database", file, "--set", "2:Name=Zed Zulu", "2:Birthplace=Finland", "2:Hand=R",
                "2:Salary=$1500", "2:Spd=77", "2:Pos=D", "2:Contract=3", "--show", "2"},
               {"player-database", file, "--set", "2:Hand=X"},
@@ -163,8 +140,10 @@ TEST(FormsCli, DatabaseMergeAndUpdate) {
   Player star = MakePlayer("T0 C 4", kCentre, 88);
   star.Salary = 900000;
   WriteFileAtomic(file, EncodeRecords(std::vector<DbRecord>{{-1, star}, {-1, MakePlayer("Left Over", kCentre, 70)}}));
-  Answered(merged, "no\nyes\n", {"player-database", file, "--merge", "--list"});  // old salaries, and saved
-  RunAll(merged, {{"player", "0", "3"}, {"edit-players", "--list"}, {"--yes", "player-database", file, "--merge"},
+  merged.answered("no\nyes\n", {"player-database", file, "--merge", "--list"});  // old salaries, and saved
+  merged.kvlEach({{"player", "0", "3"},
+                  {"edit-players", "--list"},
+                  {"--yes", "player-database", file, "--merge"},
                   {"player", "0", "3"}});
 
   LeaguePlan plan = StandardLeague(2);
@@ -173,7 +152,7 @@ TEST(FormsCli, DatabaseMergeAndUpdate) {
   plan.rosters[1][0].Name.set("Twin");
   CliLeague updated(plan);
   const std::string ratings = (updated.dir.path() / "ratings.drs").string();
-  Edit<ProspectList>(updated.path + ".pct", 1, [](ProspectList& l) { l.Name[4].set("Kid"); });
+  EditRecord<ProspectList>(updated.path + ".pct", 1, [](ProspectList& l) { l.Name[4].set("Kid"); });
   RecordFile(updated.path + ".drs", DbRecord::kSize).putRecord(2, DbRecord{0, MakePlayer("Free Guy", kCentre, 40)});
   Player kid = MakePlayer("Kid", kDefence, 50);
   kid.Salary = 4000000, kid.Age = 19, kid.Contract = 3;  // 40,000 hundreds: more than the field holds
@@ -181,7 +160,7 @@ TEST(FormsCli, DatabaseMergeAndUpdate) {
                                                                {0, MakePlayer("Free Guy", kCentre, 66)},
                                                                {0, MakePlayer("Twin", kGoalie, 63)},
                                                                {0, kid}}));
-  RunAll(updated, {{"--no", "update-player-stats", ratings},
+  updated.kvlEach({{"--no", "update-player-stats", ratings},
                    {"--yes", "update-player-stats", ratings},
                    {"player", "0", "0"},
                    {"player", "0", "5"},
@@ -201,8 +180,8 @@ TEST(FormsCli, WaiversAndFreeAgents) {
   while (plan.rosters[3].size() < kRosterSlots) plan.rosters[3].push_back(MakePlayer("Filler", kCentre, 50, 0));
   CliLeague lg(plan);
   WriteFileAtomic(lg.path + ".pri", Bytes{0, 1, 2, 3});
-  Answered(lg, "yes\nno\nyes\n", {"set-roster", "0", "--scratch", "0", "--farm", "0"});  // not on waivers
-  RunAll(lg, {{"--yes", "set-roster", "0", "--farm", "0"},
+  lg.answered("yes\nno\nyes\n", {"set-roster", "0", "--scratch", "0", "--farm", "0"});  // not on waivers
+  lg.kvlEach({{"--yes", "set-roster", "0", "--farm", "0"},
               {"check-waivers"},
               {"check-waivers", "0"},
               {"--yes", "check-waivers", "2", "--claim", "1"},
@@ -218,8 +197,9 @@ TEST(FormsCli, WaiversAndFreeAgents) {
               {"view-team", "0"},
               {"view-team", "1"}});
   for (std::size_t n : {2, 3})
-    RecordFile(lg.path + ".drs", DbRecord::kSize).putRecord(n, DbRecord{0, MakePlayer(fmt::format("Free Agent {}", n), kCentre, 60, 0)});
-  RunAll(lg, {{"free-agents"},
+    RecordFile(lg.path + ".drs", DbRecord::kSize)
+        .putRecord(n, DbRecord{0, MakePlayer(fmt::format("Free Agent {}", n), kCentre, 60, 0)});
+  lg.kvlEach({{"free-agents"},
               {"free-agents", "1", "--sign", "2", "--salary", "100000000", "--years", "2"},
               {"free-agents", "1", "--sign", "2", "--salary", "500000", "--years", "11"},
               {"--yes", "free-agents", "1", "--sign", "Free Agent 2", "--salary", "750000", "--years", "3"},
@@ -232,8 +212,8 @@ TEST(FormsCli, WaiversAndFreeAgents) {
 // StandardLeague deals teams round the four divisions: Team2 is in conference 2, division 1.
 TEST(FormsCli, Alignment) {
   CliLeague lg(StandardLeague(4));
-  Answered(lg, "\n", {"--yes", "align", "add", "1", "1"});  // an empty name adds nobody
-  RunAll(lg, {{"--yes", "align", "add", "2", "1", "Saskatoon Blades"},
+  lg.answered("\n", {"--yes", "align", "add", "1", "1"});  // an empty name adds nobody
+  lg.kvlEach({{"--yes", "align", "add", "2", "1", "Saskatoon Blades"},
               {"--yes", "align", "rename-conference", "2", "Western Conference"},
               {"--yes", "align", "rename-division", "2", "2", "Pacific Northwest"},
               {"--yes", "align", "expansion", "2"},
@@ -249,7 +229,7 @@ TEST(FormsCli, Alignment) {
               {"align", "show"}});
   lg.note("priority: " + fmt::format("{}", fmt::join(ReadFileBytes(lg.path + ".pri"), " ")));
   CliLeague full(StandardLeague(40));
-  RunAll(full, {{"--yes", "align", "add", "1", "1", "Never"},
+  full.kvlEach({{"--yes", "align", "add", "1", "1", "Never"},
                 {"--yes", "align", "add", "2", "3", "Never"},
                 {"--yes", "align", "move", "1", "1", "1"}});
   CliLeague most(StandardLeague(50));
@@ -266,25 +246,26 @@ TEST(FormsCli, Rosters) {
   plan.rosters[1][21].Name = plan.rosters[0][21].Name;
   plan.rosters[3] = Join({Squad({4, 4, 4, 6, 2}, 70), Squad({1, 1, 1, 1, 1}, 50, 100), Several(kCentre, 2, 41, 0)});
   CliLeague lg(plan);
-  RunAll(lg, {{"set-roster", "0", "--dress", "18"},
+  lg.kvlEach({{"set-roster", "0", "--dress", "18"},
               {"set-roster", "0", "--farm", "18"},
               {"set-roster", "0", "--scratch", "0", "--dress", "0"},  // sent down in this sitting: stays down
               {"--yes", "set-roster", "0", "--scratch", "1", "--release", "21"},
               {"--yes", "set-roster", "1", "--dress", "18", "--release", "21"},
               {"free-agents"},
-              {"--yes", "set-roster", "1", "--protect", "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "12", "13",
-               "14", "15", "16", "19"},
-              {"set-roster", "1", "--protect", "10"},  // an eleventh forward
-              {"set-roster", "1", "--protect", "17"},  // ten forwards leave room for five D
-              {"set-roster", "1", "--protect", "20"},  // and one goalie
+              {"--yes", "set-roster", "1", "--protect", "0",  "1",  "2",  "3",  "4",  "5",
+               "6",     "7",          "8", "9",         "12", "13", "14", "15", "16", "19"},
+              {"set-roster", "1", "--protect", "10"},          // an eleventh forward
+              {"set-roster", "1", "--protect", "17"},          // ten forwards leave room for five D
+              {"set-roster", "1", "--protect", "20"},          // and one goalie
               {"--yes", "set-roster", "1", "--protect", "0"},  // unmarking, at the limit
               {"set-roster", "3", "--up", "25", "26"}});
   const Team team = RecordFile(lg.path + ".tms", Team::kSize).getRecord<Team>(1);
   EXPECT_EQ(std::count(team.Lines.cells.begin(), team.Lines.cells.end(), 1) +
-                std::count(team.Lines.cells.begin(), team.Lines.cells.end(), 2), 0)
+                std::count(team.Lines.cells.begin(), team.Lines.cells.end(), 2),
+            0)
       << "the player sent down and the hurt one leave the lines";
   EXPECT_EQ(team.LinesOK, kFalse);
-  Edit<Player>(lg.path + ".ros", 3 * kRosterSlots + 21, [](Player& p) { p.Suspended = kHoldOut; });
+  EditRecord<Player>(lg.path + ".ros", 3 * kRosterSlots + 21, [](Player& p) { p.Suspended = kHoldOut; });
   lg.kvl({"set-roster", "3", "--up", "25"});
   LeaguePlan shortPlan = StandardLeague(2);
   shortPlan.rosters[1] = Squad({2, 4, 4, 4, 1}, 70, 100);
@@ -304,7 +285,7 @@ TEST(FormsCli, ProspectsActivated) {
   DbRecord free{kFalse, MakePlayer("Ann Ace", kCentre, 77)};
   free.P.Num = 2;
   db.putRecord(2, free);
-  RunAll(lg, {{"--yes", "view-prospects", "1", "--add", "Ann Ace", "--activate", "Ann Ace"},
+  lg.kvlEach({{"--yes", "view-prospects", "1", "--add", "Ann Ace", "--activate", "Ann Ace"},
               {"view-prospects", "1"},
               {"--yes", "view-prospects", "0", "--add", "Ann Ace", "--add", "Bob Blue", "--activate", "Ann Ace"},
               {"--yes", "view-prospects", "0", "--activate", "Bob Blue"},
@@ -327,35 +308,37 @@ TEST(FormsCli, TradeOffice) {
   for (std::size_t t : {2, 3})
     while (plan.rosters[t].size() < kRosterSlots) plan.rosters[t].push_back(MakePlayer("Filler", kDefence, 40, 0));
   CliLeague lg(plan);
-  WriteFileAtomic(lg.path + ".dpk", EncodeRecords(std::vector{NewDraftPicks(0), NewDraftPicks(1), NewDraftPicks(2),
-                                                              NewDraftPicks(3)}));
+  WriteFileAtomic(lg.path + ".dpk",
+                  EncodeRecords(std::vector{NewDraftPicks(0), NewDraftPicks(1), NewDraftPicks(2), NewDraftPicks(3)}));
   for (std::size_t t = 0; t < 4; ++t)
-    Edit<ProspectList>(lg.path + ".pct", t + 1, [t](ProspectList& l) {
-      for (std::size_t i = 0; i < (t == 3 ? kMaxProspects : 1); ++i) l.Name[i].set(fmt::format("Prospect {}", i)), l.Age[i] = 18;
+    EditRecord<ProspectList>(lg.path + ".pct", t + 1, [t](ProspectList& l) {
+      for (std::size_t i = 0; i < (t == 3 ? kMaxProspects : 1); ++i)
+        l.Name[i].set(fmt::format("Prospect {}", i)), l.Age[i] = 18;
     });
-  RunAll(lg, {{"trade", "0"},
-              {"trade", "0", "1", "--a-pick", "2027 Rnd 1 T00", "--assess"},
-              {"trade", "0", "1", "--a-pick", "2027 Rnd 1 T00", "--b-prospect", "0", "--b-cash", "325000", "--assess"},
-              {"trade", "0", "1", "--a-pick", "2027 Rnd 1 T00", "--b-prospect", "0", "--b-cash", "$345,000", "--assess"},
-              {"trade", "0", "1", "--a-cash", "-5"},
-              {"trade", "0", "1", "--a-cash", "lots"},
-              {"trade", "0", "1", "--a-cash", "3000000000"},
-              {"trade", "0", "1", "--a-cash", "2000000", "--assess"},
-              {"trade", "0", "1", "--a-player", "40"},
-              {"trade", "0", "1", "--a-prospect", "3"},
-              {"trade", "0", "1", "--a-pick", "60"},
-              {"trade", "2", "2", "--a-player", "0"},
-              {"trade", "2", "3", "--a-player", "0", "--a-prospect", "0", "--b-player", "0", "--b-player", "1"},
-              {"trade", "2", "3", "--a-player", "0", "--a-prospect", "0", "--b-player", "0"},
-              {"--yes", "trade", "2", "3", "--a-player", "0", "--b-player", "0"},
-              {"--yes", "trade", "0", "1", "--a-pick", "2027 Rnd 1 T00"},
-              {"edit-draft-picks", "0"},
-              {"trade", "1"},
-              {"edit-draft-picks", "1", "--add", "2033 Rnd 1 T00"},
-              {"edit-draft-picks", "1", "--add", "2027 Rnd 10 T00"},
-              {"edit-draft-picks", "1", "--add", "2027 Rnd 1 T07"},
-              {"edit-draft-picks", "1", "--remove", "60"},
-              {"--no", "edit-draft-picks", "1", "--remove", "5"}});
+  lg.kvlEach(
+      {{"trade", "0"},
+       {"trade", "0", "1", "--a-pick", "2027 Rnd 1 T00", "--assess"},
+       {"trade", "0", "1", "--a-pick", "2027 Rnd 1 T00", "--b-prospect", "0", "--b-cash", "325000", "--assess"},
+       {"trade", "0", "1", "--a-pick", "2027 Rnd 1 T00", "--b-prospect", "0", "--b-cash", "$345,000", "--assess"},
+       {"trade", "0", "1", "--a-cash", "-5"},
+       {"trade", "0", "1", "--a-cash", "lots"},
+       {"trade", "0", "1", "--a-cash", "3000000000"},
+       {"trade", "0", "1", "--a-cash", "2000000", "--assess"},
+       {"trade", "0", "1", "--a-player", "40"},
+       {"trade", "0", "1", "--a-prospect", "3"},
+       {"trade", "0", "1", "--a-pick", "60"},
+       {"trade", "2", "2", "--a-player", "0"},
+       {"trade", "2", "3", "--a-player", "0", "--a-prospect", "0", "--b-player", "0", "--b-player", "1"},
+       {"trade", "2", "3", "--a-player", "0", "--a-prospect", "0", "--b-player", "0"},
+       {"--yes", "trade", "2", "3", "--a-player", "0", "--b-player", "0"},
+       {"--yes", "trade", "0", "1", "--a-pick", "2027 Rnd 1 T00"},
+       {"edit-draft-picks", "0"},
+       {"trade", "1"},
+       {"edit-draft-picks", "1", "--add", "2033 Rnd 1 T00"},
+       {"edit-draft-picks", "1", "--add", "2027 Rnd 10 T00"},
+       {"edit-draft-picks", "1", "--add", "2027 Rnd 1 T07"},
+       {"edit-draft-picks", "1", "--remove", "60"},
+       {"--no", "edit-draft-picks", "1", "--remove", "5"}});
   lg.expectTranscript(__FILE__, "forms_trade.txt");
 }
 

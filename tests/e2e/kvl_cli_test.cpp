@@ -42,11 +42,6 @@ struct Metro : CliLeague {
     for (auto [at, v] : bytes) lge[at] = v;
     WriteFileAtomic(path + ".lge", lge);
   }
-  fs::path answers(const std::string& text) {
-    fs::path file = dir.path() / "answers.txt";
-    WriteFileAtomic(file, Bytes(text.begin(), text.end()));
-    return file;
-  }
 };
 
 const std::vector<std::string> kNone;
@@ -54,15 +49,14 @@ const std::vector<std::string> kNone;
 // An unknown command is named, with the list of commands.
 TEST(Cli, UsageErrorsExitTwo) {
   Metro lg;
-  for (auto args : std::vector<std::vector<std::string>>{{"frobnicate"},
-                                                        {"--seed", "3", "frobnicate", "x"},
-                                                        {},
-                                                        {"info", "--bogus"},
-                                                        {"--seed", "many", "info"},
-                                                        {"--answers", (lg.dir.path() / "nowhere").string(), "info"},
-                                                        {"rename-league"},
-                                                        {"--yes", "--no", "info"}})
-    lg.kvl(args);
+  lg.kvlEach({{"frobnicate"},
+              {"--seed", "3", "frobnicate", "x"},
+              {},
+              {"info", "--bogus"},
+              {"--seed", "many", "info"},
+              {"--answers", (lg.dir.path() / "nowhere").string(), "info"},
+              {"rename-league"},
+              {"--yes", "--no", "info"}});
   lg.expectTranscript(__FILE__, "usage_errors.txt");
 }
 
@@ -135,19 +129,22 @@ TEST(Cli, InfoTellsTheStateAndTheMenuAndTouchesNothing) {
 TEST(Cli, AnswersSaveAsRenameAndTheShell) {
   Metro lg;
   for (const char* answer : {"no\n", "yes\r\n"}) {
-    lg.kvl({"--answers", lg.answers(answer).string(), "rename-league", "Answered League"});
+    lg.answered(answer, {"rename-league", "Answered League"});
     lg.note("stored: " + lg.storedName());
   }
   std::string copy = (lg.dir.path() / "league" / "copy").string();
   WriteFileAtomic(copy + ".lge", Bytes{1, 2, 3});
   for (const char* answer : {"no\n", "yes\n"}) {
-    lg.kvl({"--answers", lg.answers(answer).string(), "save-as", copy});
+    lg.answered(answer, {"save-as", copy});
     lg.note("copy.lge: " + std::to_string(ReadFileBytes(copy + ".lge").size()) + " bytes");
   }
   EXPECT_EQ(ReadFileBytes(copy + ".tms"), ReadFileBytes(lg.path + ".tms"));
   lg.kvl({"--yes", "rename-league", "Ligue Québécoise de Hockey Junior"});
   Bytes lge = ReadFileBytes(lg.path + ".lge");
-  EXPECT_EQ(std::string(lge.begin(), lge.begin() + 25), "Ligue Qu\xE9" "b\xE9" "coise de Hocke");
+  EXPECT_EQ(std::string(lge.begin(), lge.begin() + 25),
+            "Ligue Qu\xE9"
+            "b\xE9"
+            "coise de Hocke");
   lg.kvl({"shell"}, "info\nrename-league \"Shell League\"\nsave\nexit\n");
   lg.note("stored: " + lg.storedName());
   // A wrong command does not end the shell; the end of input answers the exit question no.
@@ -175,26 +172,36 @@ TEST(Cli, BadInputIsNamedAndChangesNothing) {
         lg.pinLeague = false;
         lg.kvl({"--yes", "load", lg.path + ".lge"});
       });
-  run([](Metro& lg) {
+  run(
+      [](Metro& lg) {
         RecordFile ros(lg.path + ".ros", Player::kSize);
         Player p = ros.getRecord<Player>(2 * kRosterSlots + 12 + 1);
         p.Ratings[kSpd] = 255;
         ros.putRecord(2 * kRosterSlots + 12 + 1, p);
       },
-      [](Metro& lg) { lg.kvl({"--no", "exhibition", "2", "3"}); });
-  run([](Metro& lg) {
+      [](Metro& lg) {
+        lg.kvl({"--no", "exhibition", "2", "3"});
+      });
+  run(
+      [](Metro& lg) {
         League header = DecodeRecord<League>(ReadFileBytes(lg.path + ".lge"));
         header.Conf[0].Div[1].Team[2] = 187;
         WriteFileAtomic(lg.path + ".lge", EncodeRecord(header));
       },
-      [](Metro& lg) { lg.kvl({"--no", "align", "show"}); });
-  run([](Metro& lg) {
+      [](Metro& lg) {
+        lg.kvl({"--no", "align", "show"});
+      });
+  run(
+      [](Metro& lg) {
         fs::remove(lg.path + ".ros");
         fs::create_directory(lg.path + ".ros");
       },
-      [](Metro& lg) { lg.kvl({"--no", "info"}); });
+      [](Metro& lg) {
+        lg.kvl({"--no", "info"});
+      });
   // A file missing from the last league: the run ends, and the next start searches.
-  run([](Metro& lg) {
+  run(
+      [](Metro& lg) {
         fs::remove(lg.path + ".coa");
         lg.pinLeague = false;
         fs::create_directories(lg.home);

@@ -57,14 +57,13 @@ TEST(YearCommands, ASeasonThePlayoffsToAChampionANewSeasonAndASecondYear) {
   plan.header.PlayoffSize = 1;  // four a conference
   CliLeague lg(plan, "year", {"--seed", "4"});
   const fs::path folder = lg.dir.path() / "league";
-  for (auto args : std::vector<std::vector<std::string>>{{"--yes", "make-schedule"},
-                                                        {"--yes", "start-playoffs"},  // not before the season is over
-                                                        {"--yes", "play-games", "--days", "0"},
-                                                        {"--yes", "play-games", "--days", "two"},
-                                                        {"--yes", "play-games", "--days", "2"},
-                                                        {"--yes", "play-games", "--season"},
-                                                        {"--yes", "play-games"}})
-    lg.kvl(args);
+  lg.kvlEach({{"--yes", "make-schedule"},
+              {"--yes", "start-playoffs"},  // not before the season is over
+              {"--yes", "play-games", "--days", "0"},
+              {"--yes", "play-games", "--days", "two"},
+              {"--yes", "play-games", "--days", "2"},
+              {"--yes", "play-games", "--season"},
+              {"--yes", "play-games"}});
   ExpectSeasonAgrees(lg.path, lg.home / "Transfer");
   auto files = [](const std::string& base) {
     std::map<std::string, Bytes> out;

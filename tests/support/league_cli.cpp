@@ -53,6 +53,17 @@ ProgramRun CliLeague::kvl(std::vector<std::string> args, const std::string& inpu
   return r;
 }
 
+void CliLeague::kvlEach(const std::vector<std::vector<std::string>>& runs) {
+  for (const auto& args : runs) kvl(args);
+}
+
+ProgramRun CliLeague::answered(const std::string& answers, std::vector<std::string> args) {
+  const fs::path file = dir.path() / "answers.txt";
+  WriteText(file, answers);
+  args.insert(args.begin(), {"--answers", file.string()});
+  return kvl(args);
+}
+
 void CliLeague::note(const std::string& fact) { transcript += "# " + plain(fact) + "\n"; }
 
 void CliLeague::expectTranscript(const std::string& testFile, const std::string& name) const {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "support/league_fixture.h"
+#include "util/record_file.h"
 
 namespace kvl::test {
 
@@ -24,6 +25,10 @@ struct CliLeague {
   explicit CliLeague(const LeaguePlan& plan, const std::string& name = "test", std::vector<std::string> lead = {});
   // Runs kvl --home <dir>/home [--league <path>.lge] [lead] args, and keeps the run.
   ProgramRun kvl(std::vector<std::string> args, const std::string& input = "");
+  // Each of these runs in turn.
+  void kvlEach(const std::vector<std::vector<std::string>>& runs);
+  // A run whose questions and prompts take `answers`, one a line, from an answers file.
+  ProgramRun answered(const std::string& answers, std::vector<std::string> args);
   // A fact the test adds to the transcript, on a line of its own after "# ".
   void note(const std::string& fact);
   // Compares the transcript with golden/<name> beside `testFile` (pass __FILE__).
@@ -38,5 +43,14 @@ struct CliLeague {
   bool pinLeague = true;  // false: runs open the last league loaded, as a user's next start does
   std::string transcript;
 };
+
+// Changes record `n` (from 1) of a written league file.
+template <class R, class F>
+void EditRecord(const std::string& file, std::size_t n, F change) {
+  RecordFile f(file, R::kSize);
+  R r = f.getRecord<R>(n);
+  change(r);
+  f.putRecord(n, r);
+}
 
 }  // namespace kvl::test
