@@ -23,14 +23,6 @@ std::size_t At(int i) { return static_cast<std::size_t>(i); }
 // Old team number -> new one after team kGone is gone.
 u8 New(int t) { return static_cast<u8>(t < kGone ? t : t - 1); }
 
-template <class R>
-std::vector<R> Records(const fs::path& p) {
-  RecordFile f(p, R::kSize);
-  std::vector<R> out;
-  for (std::size_t n = 1; n <= f.count(); ++n) out.push_back(f.getRecord<R>(n));
-  return out;
-}
-
 WaiverRecord Waived(const char* name, int owner, int holder, int claimedBy) {
   WaiverRecord w;
   w.Name.set(name);
@@ -113,7 +105,7 @@ TEST_F(DeleteTeam, NoKeepsEverythingAndYesRenumbersEveryFileThatNamesTeams) {
   // Team t stood in conference (t % 4) / 2, division t % 2.
   EXPECT_EQ((std::array{TeamsIn(h.state, 0, 0), TeamsIn(h.state, 0, 1), TeamsIn(h.state, 1, 0), TeamsIn(h.state, 1, 1)}),
             (std::array<std::vector<u8>, 4>{{{0, New(4)}, {1, New(5)}, {}, {New(3)}}}));
-  auto coaches = Records<Coach>(h.state.swap(swp::Coaches));
+  auto coaches = ReadRecords<Coach>(h.state.swap(swp::Coaches));
   ASSERT_EQ(coaches.size(), At(kTeams));
   for (int c = 0; c < kTeams; ++c)
     EXPECT_EQ(coaches[At(c)].Team, c == kGone ? Coach::kNoTeam : New(c) + 1) << "coach " << c;
@@ -122,7 +114,7 @@ TEST_F(DeleteTeam, NoKeepsEverythingAndYesRenumbersEveryFileThatNamesTeams) {
   for (std::size_t place = 0; place < places.size(); ++place) EXPECT_EQ(h.state.team(places[place]).Priority, place);
 
   // Picks follow their holders; picks made for the team going lapse and the gaps close.
-  auto picks = Records<DraftPickRecord>(h.state.swap(swp::Picks));
+  auto picks = ReadRecords<DraftPickRecord>(h.state.swap(swp::Picks));
   ASSERT_EQ(picks.size(), At(kTeams - 1));
   const auto& four = picks[New(4)];
   EXPECT_EQ(std::count_if(four.Pick.begin(), four.Pick.end(), [](const DraftPick& p) { return p.Active != 0; }), 53);
@@ -132,14 +124,14 @@ TEST_F(DeleteTeam, NoKeepsEverythingAndYesRenumbersEveryFileThatNamesTeams) {
 
   // The team's games go, the rest are renumbered, and the header's counts follow: of the first
   // seven games, played, five were without team 2.
-  auto sched = Records<ScheduleRecord>(h.state.swap(swp::Schedule));
+  auto sched = ReadRecords<ScheduleRecord>(h.state.swap(swp::Schedule));
   ASSERT_EQ(sched.size(), 10u);
   EXPECT_EQ((std::array{sched[1].HomeTeam, sched[1].AwayTeam, sched[9].HomeTeam, sched[9].AwayTeam}),
             (std::array<u8, 4>{0, New(3), New(4), New(5)}));
   EXPECT_EQ((std::array{int(sched[9].GameNumber), int(sched[9].Played), int(sched[4].Played)}), (std::array{10, 0, -1}));
   EXPECT_EQ((std::array{int(h.state.league.GamesPlayed), int(h.state.league.LeagueGames)}), (std::array{5, 10}));
 
-  auto w = Records<WaiverRecord>(h.state.swap(swp::Waivers));
+  auto w = ReadRecords<WaiverRecord>(h.state.swap(swp::Waivers));
   ASSERT_EQ(w.size(), 3u);
   EXPECT_TRUE(w[0].Name.empty());
   EXPECT_EQ((std::array{w[1].Holder, w[1].ClaimedBy, w[1].Owner}), (std::array<u8, 3>{New(4), New(4), 255}))
@@ -148,7 +140,7 @@ TEST_F(DeleteTeam, NoKeepsEverythingAndYesRenumbersEveryFileThatNamesTeams) {
   // Open is per team number: team 2's flag goes, later flags move down.
   EXPECT_EQ((std::array{w[2].Open[0], w[2].Open[At(New(3))], w[2].Open[At(New(5))], w[2].Open[5]}),
             (std::array<i16, 4>{-1, -4, -6, 0}));
-  auto futures = Records<ContractFuture>(h.state.swap(swp::Futures));
+  auto futures = ReadRecords<ContractFuture>(h.state.swap(swp::Futures));
   ASSERT_EQ(futures.size(), At(kTeams - 1));
   EXPECT_EQ((std::array{futures[New(5)].Amount[0][0], int(futures[New(5)].OwnerTeam[0][0])}),
             (std::array{6000, int(New(5))}));
@@ -158,12 +150,12 @@ TEST_F(DeleteTeam, NoKeepsEverythingAndYesRenumbersEveryFileThatNamesTeams) {
   ASSERT_EQ(mail.size(), At(kTeams - 1));
   for (const auto& e : mail)
     EXPECT_EQ(e.address, "gm" + std::to_string(e.team < kGone ? e.team : e.team + 1) + "@example.org");
-  auto career = Records<CareerRecord>(h.state.swap(swp::Career));
+  auto career = ReadRecords<CareerRecord>(h.state.swap(swp::Career));
   ASSERT_EQ(career.size(), 1u);
   EXPECT_EQ((std::array{career[0].P.Name.str(), std::to_string(career[0].Team)}),
             (std::array<std::string, 2>{"Left Five", std::to_string(New(5))}));
   std::vector<i16> flags;
-  for (const auto& d : Records<DbRecord>(h.state.swap(swp::Database))) flags.push_back(d.DbFlag);
+  for (const auto& d : ReadRecords<DbRecord>(h.state.swap(swp::Database))) flags.push_back(d.DbFlag);
   EXPECT_EQ(flags, (std::vector<i16>{0, -1, 0, 0})) << "the team's players are free again; team 3's stays held";
 }
 
@@ -171,7 +163,7 @@ TEST_F(DeleteTeam, DeletingTheLastTeamLeavesAnEmptyLeague) {
   for (int t = kTeams - 1; t >= 0; --t) ASSERT_TRUE(AlignLeague(h.state).cmdDelete(t)) << t;
   EXPECT_EQ(h.state.numTeams(), 0);
   EXPECT_EQ(fs::file_size(h.state.swap(swp::Roster)), 0u);
-  for (const auto& c : Records<Coach>(h.state.swap(swp::Coaches))) EXPECT_EQ(c.Team, Coach::kNoTeam);
+  for (const auto& c : ReadRecords<Coach>(h.state.swap(swp::Coaches))) EXPECT_EQ(c.Team, Coach::kNoTeam);
 }
 
 }  // namespace

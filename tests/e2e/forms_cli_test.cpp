@@ -5,18 +5,12 @@
 #include "support/kvl_test.h"
 #include "support/league_cli.h"
 #include "support/sim_league.h"
-#include "support/team_files.h"
 #include "support/team_rosters.h"
 #include "team/roster_rules.h"
 #include "transactions/draft_picks.h"
 
 namespace kvl::test {
 namespace {
-
-std::vector<std::string> Concat(std::vector<std::string> a, const std::vector<std::string>& b) {
-  a.insert(a.end(), b.begin(), b.end());
-  return a;
-}
 
 // Slot 0 a centre, 19 a goalie; each edit stores what fits its field and drops the rest.
 TEST(FormsCli, PlayerAndTeamCards) {
@@ -82,11 +76,9 @@ TEST(FormsCli, Coaches) {
   plan.teams[3].Coach = TeamCoach{};
   plan.coaches[3].Team = Coach::kNoTeam;
   CliLeague lg(plan);
-  const std::vector<std::string> edits{"--of", "100", "--df", "49", "--ex", "77.4", "--salary", "20000000"};
-  for (const char* answer : {"--no", "--yes"}) {
-    lg.kvl(Concat({answer, "edit-coach", "1"}, edits));
-    lg.kvl({"view-all-coaches"});
-  }
+  for (const char* answer : {"--no", "--yes"})
+    lg.kvlEach({{answer, "edit-coach", "1", "--of", "100", "--df", "49", "--ex", "77.4", "--salary", "20000000"},
+                {"view-all-coaches"}});
   lg.kvlEach({{"--yes", "edit-coach", "Coach 3", "--salary", "1"},
               {"--yes", "edit-coach", "2", "--of", "90", "--df", "80"},
               {"view-coach", "1"}});

@@ -1,3 +1,4 @@
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -34,7 +35,7 @@ std::vector<std::string> LogLines(const fs::path& file) {
 // Allots with the given minimums; GPTeam is the suggestion unless given.
 Allotted Allot(const Alignment& a, int vsDiv, int vsConf, int vsLg, int gpTeam = 0, int unaligned = -1) {
   test::Harness h;
-  test::AlignInMemory(h.state, a);
+  h.load(test::AlignedLeague(a));
   if (unaligned >= 0) h.state.team(unaligned).Conf = kNoConference;
   ScheduleParams p = DefaultScheduleParams(h.state.numTeams());
   p.vsDiv = vsDiv;
@@ -53,7 +54,7 @@ Allotted Allot(const Alignment& a, int vsDiv, int vsConf, int vsLg, int gpTeam =
 TEST(Allotment, EveryPairMeetsAsTheMinimumsAsk) {
   const int rows[][4] = {{6, 2, 2, 66}, {4, 4, 2, 68}, {2, 0, 0, 10}, {8, 2, 0, 52}};  // div, conf, lg, games
   test::Harness h;
-  test::AlignInMemory(h.state, kDemo);
+  h.load(test::AlignedLeague(kDemo));
   for (const auto& [vsDiv, vsConf, vsLg, gamesPerTeam] : rows) {
     ASSERT_EQ(*SuggestedGamesPerTeam(h.state, vsDiv, vsConf, vsLg), gamesPerTeam);
     Allotted r = Allot(kDemo, vsDiv, vsConf, vsLg);
@@ -98,11 +99,8 @@ TEST(Allotment, OddCountsSplitBetweenTheTwoHosts) {
 }
 
 TEST(Allotment, HalfOfAnOddTotalGoesToTheEvenNeighbour) {
-  struct Case {
-    int gp, half;
-  };
-  for (Case c : {Case{81, 40}, Case{83, 42}, Case{82, 41}, Case{66, 33}, Case{1, 0}, Case{3, 2}})
-    EXPECT_EQ(HalfGamesPerTeam(c.gp), c.half) << c.gp;
+  for (auto [gp, half] : {std::pair{81, 40}, {83, 42}, {82, 41}, {66, 33}, {1, 0}, {3, 2}})
+    EXPECT_EQ(HalfGamesPerTeam(gp), half) << gp;
 }
 
 // Two games above the minimum: one more home game each. Partners are taken from
@@ -134,19 +132,16 @@ TEST(Allotment, OrderRunsByConferenceDivisionAndTeamNumber) {
 }
 
 // Below the minimum a team already has more home games than half the total;
-// the top-up cannot take games away and runs out of partners.
-TEST(Allotment, TotalBelowTheMinimumsFails) {
-  Allotted r = Allot(kDemo, 6, 2, 2, 60);
-  EXPECT_FALSE(r.ok);
-  ASSERT_FALSE(r.log.empty());
-  EXPECT_EQ(r.log.back(), "Requested games allocated for all teams.");
-}
-
-TEST(Allotment, TeamWithoutConferenceFailsAtOnce) {
-  Allotted r = Allot(kDemo, 6, 2, 2, 66, 3);
-  EXPECT_FALSE(r.ok);
-  ASSERT_EQ(r.log.size(), 5u);  // date, heading, teams 0 to 2
-  EXPECT_EQ(r.log.back().substr(0, 10), "Team2     ");
+// the top-up cannot take games away and runs out of partners. A team without a
+// conference stops the allotment at once.
+TEST(Allotment, FailsBelowTheMinimumsAndForATeamWithoutConference) {
+  Allotted below = Allot(kDemo, 6, 2, 2, 60), unaligned = Allot(kDemo, 6, 2, 2, 66, 3);
+  EXPECT_FALSE(below.ok);
+  ASSERT_FALSE(below.log.empty());
+  EXPECT_EQ(below.log.back(), "Requested games allocated for all teams.");
+  EXPECT_FALSE(unaligned.ok);
+  ASSERT_EQ(unaligned.log.size(), 5u);  // date, heading, teams 0 to 2
+  EXPECT_EQ(unaligned.log.back().substr(0, 10), "Team2     ");
 }
 
 // The whole log of an eight-team allotment: the date, the alignment checks and
@@ -180,30 +175,25 @@ TEST(Alignment, SuggestedGamesCountByTheLargestDivisionAndBalanceAllowsOneTeamOf
   };
   for (const Row& r : rows) {
     test::Harness h;
-    test::AlignInMemory(h.state, r.a);
+    h.load(test::AlignedLeague(r.a));
     EXPECT_EQ(SuggestedGamesPerTeam(h.state, r.vsDiv, r.vsConf, r.vsLg), r.suggested) << r.why;
     EXPECT_EQ(CheckAlignmentBalance(h.state), r.balanced) << r.why;
   }
 }
 
+// The golden holds the defaults and the reach of GPDay, Variance and GPTeam (at
+// a suggestion of 66) by league size.
 TEST(ScheduleParams, DefaultsAndReachFollowTheLeagueSize) {
-  struct Case {
-    int n, gpDay, variance;
-    ParamRange gpDayRange, varianceRange;
-  };
-  for (Case c : {Case{24, 4, 6, {1, 11}, {0, 11}}, Case{8, 1, 2, {-1, 3}, {0, 3}}, Case{30, 6, 7, {2, 14}, {0, 14}},
-                 Case{25, 5, 6, {1, 11}, {0, 11}}}) {
-    ScheduleParams p = DefaultScheduleParams(c.n);
-    EXPECT_EQ(p.GPDay, c.gpDay) << c.n;
-    EXPECT_EQ(p.Variance, c.variance) << c.n;
-    ParamRange day = RangeOf(ScheduleParam::GPDay, c.n, 66), var = RangeOf(ScheduleParam::Variance, c.n, 66);
-    EXPECT_EQ(std::pair(day.lo, day.hi), std::pair(c.gpDayRange.lo, c.gpDayRange.hi)) << c.n;
-    EXPECT_EQ(std::pair(var.lo, var.hi), std::pair(c.varianceRange.lo, c.varianceRange.hi)) << c.n;
+  std::string text;
+  for (int n : {8, 24, 25, 30}) {
+    const ScheduleParams p = DefaultScheduleParams(n);
+    text += fmt::format("{} teams: vsDiv {} vsConf {} vsLg {} GPDay {} Variance {} VarTotalGP {} VarHomeGP {}; reach",
+                        n, p.vsDiv, p.vsConf, p.vsLg, p.GPDay, p.Variance, p.VarTotalGP, p.VarHomeGP);
+    for (ScheduleParam param : {ScheduleParam::GPDay, ScheduleParam::Variance, ScheduleParam::GPTeam})
+      text += fmt::format(" {}..{}", RangeOf(param, n, 66).lo, RangeOf(param, n, 66).hi);
+    text += "\n";
   }
-  ScheduleParams p = DefaultScheduleParams(24);
-  EXPECT_EQ(std::tuple(p.vsDiv, p.vsConf, p.vsLg, p.VarTotalGP, p.VarHomeGP), std::tuple(6, 2, 2, 5, 4));
-  ParamRange gp = RangeOf(ScheduleParam::GPTeam, 24, 66);
-  EXPECT_EQ(std::pair(gp.lo, gp.hi), std::pair(66, 110));
+  test::ExpectGolden(__FILE__, "schedule_params.txt", text);
 }
 
 }  // namespace

@@ -44,13 +44,4 @@ struct CliLeague {
   std::string transcript;
 };
 
-// Changes record `n` (from 1) of a written league file.
-template <class R, class F>
-void EditRecord(const std::string& file, std::size_t n, F change) {
-  RecordFile f(file, R::kSize);
-  R r = f.getRecord<R>(n);
-  change(r);
-  f.putRecord(n, r);
-}
-
 }  // namespace kvl::test

@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 #include <stdlib.h>
 
+#include "admin/alignment.h"
+#include "admin/league_creation.h"
 #include "console/startup.h"
 #include "league/league_files.h"
 #include "util/record_file.h"
@@ -117,6 +119,15 @@ LeaguePlan StandardLeague(int teams, unsigned seed) {
   return plan;
 }
 
+void HireStandardCoaches(LeaguePlan& plan) {
+  for (std::size_t t = 0; t < plan.teams.size(); ++t) {
+    plan.teams[t].CoachRec = static_cast<u8>(t + 1);
+    plan.teams[t].Coach.Name = plan.coaches[t].Name;
+    plan.teams[t].Coach.Salary = plan.coaches[t].Salary;
+    plan.coaches[t].Team = static_cast<u8>(t + 1);
+  }
+}
+
 void WriteLeague(const LeaguePlan& plan, const std::string& path) {
   auto write = [&](const std::string& ext, const Bytes& bytes) { WriteFileAtomic(path + ext, bytes); };
   League stored = plan.header;
@@ -155,6 +166,13 @@ std::string Harness::load(const LeaguePlan& plan, const std::string& name) {
   WriteLeague(plan, path);
   LoadLg(state, path);
   return path;
+}
+
+void NewBundledLeague(Harness& h, int teams) {
+  MakeNewLeague(h.state, h.home / "default.drs", "Bundled");
+  AlignLeague align(h.state);
+  for (int c = 0; c < 2; ++c) align.ChangeDivisions(c, 4);
+  for (int t = 0; t < teams; ++t) align.cmdAdd(t % 2, (t / 2) % 4, "Club" + std::to_string(t));
 }
 
 }  // namespace kvl::test

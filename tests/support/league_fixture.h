@@ -41,6 +41,8 @@ struct LeaguePlan {
 // roster (4 C, 4 LW, 4 RW, 7 D, 3 G; 20 dressed) and two minor leaguers. Ratings
 // vary by team and slot with `seed`.
 LeaguePlan StandardLeague(int teams, unsigned seed = 1);
+// StandardLeague's coach t hired by team t, for every team.
+void HireStandardCoaches(LeaguePlan& plan);
 // Writes the file set (.lge .tms .ros .pct .drs .dpk .coa .frm) at `path` (no extension).
 void WriteLeague(const LeaguePlan& plan, const std::string& path);
 
@@ -55,5 +57,9 @@ struct Harness {
   // Writes `plan` as home/league/<name> and loads it.
   std::string load(const LeaguePlan& plan, const std::string& name = "test");
 };
+
+// Replaces the harness's league by a new one made as a user makes it: from the home folder's
+// default.drs, with `teams` teams ("Club0", ...) added in four divisions a conference.
+void NewBundledLeague(Harness& h, int teams);
 
 }  // namespace kvl::test

@@ -1,6 +1,6 @@
 #pragma once
-// An independent reading of a made schedule file, by the documented byte
-// offsets rather than the program's record code.
+// A made schedule file against the allotment it was made from. (The record's
+// byte layout is the record listing golden's.)
 #include <filesystem>
 #include <string>
 #include <vector>

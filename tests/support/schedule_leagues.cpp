@@ -11,10 +11,11 @@ int TeamCount(const Alignment& a) {
   return n;
 }
 
-void ApplyAlignment(League& header, std::vector<Team>& teams, const Alignment& a) {
+LeaguePlan AlignedLeague(const Alignment& a, unsigned seed) {
+  LeaguePlan plan = StandardLeague(TeamCount(a), seed);
   std::vector<std::pair<int, int>> divisions;
   for (std::size_t c = 0; c < a.size(); ++c) {
-    Conference& conf = header.Conf[c];
+    Conference& conf = plan.header.Conf[c];
     conf.Name.set(fmt::format("CONF {}", c + 1));
     conf.NumDivs = static_cast<u8>(a[c].size());
     for (std::size_t d = 0; d < 4; ++d) {
@@ -24,33 +25,19 @@ void ApplyAlignment(League& header, std::vector<Team>& teams, const Alignment& a
     for (std::size_t d = 0; d < a[c].size(); ++d) divisions.emplace_back(static_cast<int>(c), static_cast<int>(d));
   }
   std::size_t next = 0;
-  for (auto& team : teams) {
+  for (auto& team : plan.teams) {
     // The next division in turn that still has room.
     while (true) {
       auto [c, d] = divisions[next++ % divisions.size()];
-      Division& div = header.Conf[static_cast<std::size_t>(c)].Div[static_cast<std::size_t>(d)];
+      Division& div = plan.header.Conf[static_cast<std::size_t>(c)].Div[static_cast<std::size_t>(d)];
       if (div.NumTeams >= a[static_cast<std::size_t>(c)][static_cast<std::size_t>(d)]) continue;
-      if (div.NumTeams < div.Team.size()) div.Team[div.NumTeams] = static_cast<u8>(&team - teams.data());
+      if (div.NumTeams < div.Team.size()) div.Team[div.NumTeams] = static_cast<u8>(&team - plan.teams.data());
       ++div.NumTeams;
       team.Conf = static_cast<u8>(c);
       team.Div = static_cast<u8>(d);
       break;
     }
   }
-}
-
-void AlignInMemory(LeagueState& s, const Alignment& a) {
-  int n = TeamCount(a);
-  std::vector<Team> teams(static_cast<std::size_t>(n));
-  for (int t = 0; t < n; ++t) teams[static_cast<std::size_t>(t)].Name.set(fmt::format("Team{}", t));
-  s.league.NumTeams = static_cast<u8>(n);
-  ApplyAlignment(s.league, teams, a);
-  for (int t = 0; t < n; ++t) s.team(t) = teams[static_cast<std::size_t>(t)];
-}
-
-LeaguePlan AlignedLeague(const Alignment& a, unsigned seed) {
-  LeaguePlan plan = StandardLeague(TeamCount(a), seed);
-  ApplyAlignment(plan.header, plan.teams, a);
   return plan;
 }
 

@@ -11,11 +11,8 @@ namespace kvl::test {
 // mates have scattered numbers.
 using Alignment = std::vector<std::vector<int>>;
 
-// Sets the header's conferences and divisions and each team's Conf and Div.
-void ApplyAlignment(League& header, std::vector<Team>& teams, const Alignment& a);
-// The same on a league held in memory only (enough for the allotment).
-void AlignInMemory(LeagueState& s, const Alignment& a);
-// A StandardLeague of the alignment's size, realigned.
+// A StandardLeague of the alignment's size, its header's conferences and
+// divisions and each team's Conf and Div set.
 LeaguePlan AlignedLeague(const Alignment& a, unsigned seed = 1);
 
 int TeamCount(const Alignment& a);

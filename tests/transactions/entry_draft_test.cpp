@@ -5,7 +5,6 @@
 
 #include <fstream>
 
-#include "support/data_league.h"
 #include "support/kvl_test.h"
 #include "transactions/database_players.h"
 #include "transactions/draft_list.h"

@@ -5,7 +5,6 @@
 
 #include "league/ratings.h"
 #include "league/roster_check.h"
-#include "support/data_league.h"
 #include "support/kvl_test.h"
 #include "transactions/database_players.h"
 #include "transactions/unused_players.h"

@@ -156,12 +156,7 @@ TEST_F(TradeFixture, LinesFilesGoWithProPlayersAndFuturesFollowThePlayer) {
             (std::array{7, 1, 3, 5000}));
 }
 
-std::vector<CareerRecord> Career(LeagueState& s) {
-  RecordFile f(s.swap(swp::Career), CareerRecord::kSize);
-  std::vector<CareerRecord> v;
-  for (std::size_t n = 1; n <= f.count(); ++n) v.push_back(f.getRecord<CareerRecord>(n));
-  return v;
-}
+std::vector<CareerRecord> Career(LeagueState& s) { return test::ReadRecords<CareerRecord>(s.swap(swp::Career)); }
 
 TEST_F(TradeFixture, ExecutionMarksPlayersWithGamesWritesTheLogAndTheHistoryAndClearsTheCash) {
   loadteam(h.state, 0, 0);
