@@ -22,6 +22,11 @@ std::string Listing(const fs::path& dir) {
   return fmt::format("{}", fmt::join(names, " "));
 }
 
+std::size_t CountUsed(const std::string& database) {
+  const auto records = ReadRecords<DbRecord>(database);
+  return std::count_if(records.begin(), records.end(), [](const DbRecord& r) { return r.DbFlag != 0; });
+}
+
 // The forms' own rules are the forms_* transcripts'; here a deleted team's renumbering
 // is saved with the league, and the cards name what they cannot find.
 TEST(Commands, ADeletedTeamAndTheCardsRefusals) {
@@ -35,6 +40,45 @@ TEST(Commands, ADeletedTeamAndTheCardsRefusals) {
               {"player", "2", "0"},  // old team 3 is team 2 now
               {"view-team", "2"}});
   lg.expectTranscript(__FILE__, "admin.txt");
+}
+
+// A new league from a database whose 12 players are all marked used: refused or declined, the open
+// league stays; made, it is unnamed until saved, has no teams and frees every player, too few to fill
+// the two teams added.
+TEST(Commands, ANewLeague) {
+  CliLeague lg(StandardLeague(8));
+  const fs::path dir = lg.dir.path();
+  std::vector<DbRecord> records;
+  for (int i = 0; i < 12; ++i) records.push_back({-1, MakePlayer("Db Player " + std::to_string(i), i % 5, 60)});
+  WriteFileAtomic(dir / "marked.drs", EncodeRecords(records));
+  WriteFileAtomic(dir / "empty.drs", Bytes{});
+  WriteFileAtomic(dir / "cut.drs", Bytes(DbRecord::kSize * 3 + 5, 7));
+  const std::string fresh = (dir / "fresh").string();
+  lg.kvl({"--no", "new"});
+  lg.answered("yes\n" + (dir / "nowhere.drs").string() + "\nno\n", {"new"});
+  lg.kvlEach({{"--yes", "new", "--database", (dir / "empty.drs").string(), "--name", "Broken"},
+              {"--yes", "new", "--database", (dir / "cut.drs").string(), "--name", "Broken"},
+              {"info"},
+              {"--yes", "new", "--database", (dir / "marked.drs").string(), "--name",
+               "The Very Long Name Of A New League", "--save-as", fresh}});
+  lg.path = fresh;
+  lg.kvlEach({{"info"},
+              {"edit-players", "--list"},
+              {"--yes", "align", "add", "1", "1", "Club0"},
+              {"--yes", "align", "add", "2", "2", "Club1"},
+              {"info"},
+              {"edit-draft-picks", "1"}});
+  lg.note(fmt::format("players used in the database: {}, roster bytes: {}", CountUsed(fresh + ".drs"),
+                      fs::file_size(fresh + ".ros")));
+  lg.kvlEach({{"--yes", "assign-unused", "0", "5"},
+              {"--yes", "assign-unused", "0", "0"},
+              {"--yes", "assign-unused", "0", "13"},
+              {"--yes", "assign-unused", "1", "5"},
+              {"--yes", "assign-unused", "--auto"},
+              {"set-roster", "0"}});
+  lg.note(fmt::format("coaches as the home folder's: {}",
+                      ReadFileBytes(fresh + ".coa") == ReadFileBytes(lg.home / "default.coa")));
+  lg.expectTranscript(__FILE__, "new.txt");
 }
 
 TEST(Commands, RostersLinesAndCoaches) {
@@ -59,12 +103,23 @@ TEST(Commands, RostersLinesAndCoaches) {
                    {"--yes", "fire-coach", "2"},
                    {"--yes", "fire-coach", "2"}});
   refused.note("log: " + ReadAll(refused.path + ".tra"));
-  ExpectGolden(__FILE__, "team.txt", lg.transcript + refused.transcript);
+  // Auto-all leaves a short team as it is, with its shortages, and closes a gap before it makes lines.
+  LeaguePlan gaps = StandardLeague(2);
+  std::erase_if(gaps.rosters[1], [](const Player& p) {
+    return std::set<std::string>{"T1 C 2", "T1 C 3", "T1 C 4", "T1 Minor 1", "T1 D 7"}.count(p.Name.str()) > 0;
+  });
+  gaps.rosters[0][5] = Player{};
+  CliLeague gapped(gaps);
+  gapped.kvlEach({{"--yes", "auto-all"}, {"set-roster", "0"}, {"set-roster", "1"}, {"set-lines", "0"}});
+  ExpectGolden(__FILE__, "team.txt", lg.transcript + refused.transcript + gapped.transcript);
 }
 
+// A lines file keeps ten characters of the password and loads only with the team's, matched
+// case and all (a team without one takes an empty one); Auto Load Lines does not ask for it.
 TEST(Commands, LinesFilesProspectsAndTheDatabase) {
-  LeaguePlan plan = StandardLeague(2);
+  LeaguePlan plan = StandardLeague(4);
   plan.teams[0].Password.set("pw");
+  plan.teams[1].Password.set("secret1234");
   CliLeague lg(plan);
   const std::string dir = fs::path(lg.path).parent_path().string();
   WriteText(dir + "/bad.txt", "99,2,3\r\n");
@@ -73,6 +128,19 @@ TEST(Commands, LinesFilesProspectsAndTheDatabase) {
               {"--yes", "load-lines", "Team0", dir + "/Team0.lns"},
               {"--yes", "load-lines", "Team1", dir + "/Team0.lns"},
               {"--yes", "load-lines", "0", dir + "/bad.txt"},
+              {"--yes", "auto-load-lines"},
+              {"save-lines", "0", dir + "/Case", "--password", "PW"},
+              {"--yes", "load-lines", "0", dir + "/Case.lns"},
+              {"save-lines", "1", dir + "/Team1", "--password", "secret12345678"},
+              {"save-lines", "2", dir + "/Team2", "--password", ""},
+              {"save-lines", "3", dir + "/Team3", "--password", "not the password"},
+              {"--yes", "load-lines", "1", dir + "/Team1.lns"},
+              {"--yes", "load-lines", "2", dir + "/Team2.lns"}});
+  Bytes cut = ReadFileBytes(dir + "/Team1.lns");
+  cut.resize(100);
+  WriteFileAtomic(dir + "/Team1.lns", cut);
+  WriteText(lg.home / "LinesDirectory.txt", dir + "/\r\n");
+  lg.kvlEach({{"--yes", "load-lines", "1", dir + "/Team1.lns"},
               {"--yes", "auto-load-lines"},
               {"--yes", "set-roster", "0", "--add", "New Guy", "--add-pos", "D", "--name", "22=Renamed"},
               {"--yes", "view-prospects", "1", "--add", "Kid Prospect", "--activate", "1", "--manual", ""},

@@ -1,9 +1,9 @@
-// AutoRoster, AutoLines and the league pass AutoAll on crafted rosters, and the line table's own rules.
+// AutoRoster and AutoLines on crafted rosters, and the line table's own rules. The league pass, auto-all,
+// is the e2e team transcript's (golden/team.txt).
 #include <algorithm>
 
 #include "support/kvl_test.h"
 #include "support/team_rosters.h"
-#include "team/auto_all.h"
 #include "team/auto_lines.h"
 #include "team/auto_roster.h"
 #include "team/line_table.h"
@@ -223,39 +223,6 @@ TEST_F(AutoRosterTest, ThePickersTakeTheLowerIndexOnTiesSkipSuspensionsAndPromot
   at(2).Status = 4;
   maker.ResetFlags();
   EXPECT_EQ(maker.PromoteMinor(kDefence), 0) << "hurt minors sit as scratches; the first dressed is taken";
-}
-
-TEST(AutoAllTest, ShortTeamsAreLeftAsTheyAreWithTheirShortagesAndGapsAreClosed) {
-  LeaguePlan plan = StandardLeague(2);
-  auto& shortRoster = plan.rosters[1];
-  // Keep one centre of four and the minor-league D; drop the minor centre.
-  std::erase_if(shortRoster, [](const Player& p) {
-    std::string n = p.Name.str();
-    return n == "T1 C 2" || n == "T1 C 3" || n == "T1 C 4" || n == "T1 Minor 1" || n == "T1 D 7";
-  });
-  plan.rosters[0][5] = Player{};  // a gap that AutoAll closes
-  Harness h;
-  h.load(plan);
-  loadteam(h.state, 1, 0);
-  auto before = h.state.Player[0];
-  AutoAllResult r = AutoAll(h.state);
-  EXPECT_EQ(r.teamsSet, 1);
-  ASSERT_EQ(r.skipped.size(), 1u);
-  EXPECT_EQ(r.skipped[0], (std::vector<std::string>{"Team1", "- only 19 of 20 available", "- only 1 of 3+ C"}));
-  EXPECT_EQ(h.ui.callsOf("print").back().text, "Team1 - only 19 of 20 available - only 1 of 3+ C");
-  loadteam(h.state, 1, 0);
-  for (int i = 0; i < kRosterSlots; ++i)
-    EXPECT_EQ(h.state.player(0, i).Status, before[static_cast<std::size_t>(i)].Status);
-  loadteam(h.state, 0, 0);
-  EXPECT_FALSE(h.state.player(0, 5).empty());
-  EXPECT_TRUE(h.state.player(0, 23).empty()) << "24 players less the one blanked fill slots 0..22";
-  // The lines are made after the gap closed: every entry a dressed player.
-  const Team& team = h.state.team(0);
-  ASSERT_TRUE(LinesComplete(team.Lines));
-  EXPECT_EQ(team.LinesOK, kTrue);
-  for (int row = 0; row < kLineRows; ++row)
-    for (int slot = 0; slot < SlotsInRow(row); ++slot)
-      EXPECT_EQ(h.state.player(0, team.Lines.at(row, slot)).list(), 2) << "row " << row << " slot " << slot;
 }
 
 }  // namespace

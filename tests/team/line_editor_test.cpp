@@ -1,14 +1,12 @@
-// The line editor and managers' lines files: placements, averages, leaving, the binary file, the text import and Auto
-// Load Lines.
+// The line editor and managers' lines files: placements, averages, leaving, the moves a loaded file makes and
+// the text import. The password, a damaged file and Auto Load Lines are the e2e tests' (golden/lines.txt).
 #include "team/line_editor.h"
 
 #include <fstream>
 
-#include "admin/options_lines_directory.h"
 #include "support/golden.h"
 #include "support/kvl_test.h"
 #include "support/team_rosters.h"
-#include "team/auto_load_lines.h"
 #include "team/line_table.h"
 #include "team/lines_file.h"
 #include "team/lines_import.h"
@@ -147,8 +145,8 @@ struct LinesFileTest : ::testing::Test {
     fs::create_directories(dir);
   }
   // Team0's lines as AutoLines makes them, saved to `file` under `password`.
-  LineTable Save(const fs::path& file, const std::string& password, int team = 0) {
-    LineEditor e(h.state, team);
+  LineTable Save(const fs::path& file, const std::string& password) {
+    LineEditor e(h.state, 0);
     EXPECT_TRUE(e.cmdAuto());
     h.ui.push(password);
     EXPECT_TRUE(cmdSaveLines(h.state, e, file));
@@ -156,46 +154,6 @@ struct LinesFileTest : ::testing::Test {
   }
   Player& at(int slot) { return h.state.player(0, slot); }
 };
-
-// A loaded file gives back the table saved; ".lns" is added to a name without it.
-TEST_F(LinesFileTest, AFileLoadsBackOnlyWithTheTeamsPasswordAndAsAWholeRecord) {
-  struct Case {
-    const char* what;
-    const char* team;  // nullptr: never set, the field all zero
-    std::string password;
-    int cut;  // bytes to remove
-    bool loaded;
-    const char* told;  // titled "Import Lines" or, for a damaged file, "Invalid File"
-  } cases[] = {
-      {"the team's password", "secret", "secret", 0, true, nullptr},
-      {"typed longer: the file keeps 10 characters", "secret1234", "secret12345678", 0, true, nullptr},
-      {"a team never given one takes an empty one", nullptr, "", 0, true, nullptr},
-      {"another case", "secret", "Secret", 0, false, "Password Incorrect"},
-      {"truncated", "secret", "secret", 1, false, "Errors in File"},
-  };
-  for (const auto& c : cases) {
-    if (c.team)
-      h.state.team(0).Password.set(c.team);
-    else
-      h.state.team(0).Password.clear();
-    const LineTable made = Save(dir / "t", c.password);
-    Bytes bytes = ReadFileBytes(dir / "t.lns");
-    ASSERT_EQ(bytes.size(), LinesFileRecord::kSize);
-    bytes.resize(bytes.size() - static_cast<std::size_t>(c.cut));
-    WriteFileAtomic(dir / "t.lns", bytes);
-    h.state.team(0).Lines.cells.fill(kNoPlayer);
-    const Team before = h.state.team(0);
-    h.state.CurTeam = 0;
-    loadteam(h.state, 0, 0);
-    LinesImport r = ImportLinesSub(h.state, 0, nullptr, dir / "t.lns");
-    EXPECT_EQ(r.ok, c.loaded) << c.what;
-    EXPECT_EQ(h.state.team(0).Lines, c.loaded ? made : before.Lines) << c.what;
-    if (c.told) {
-      EXPECT_TRUE(h.ui.told(c.told, c.cut ? "Invalid File" : "Import Lines")) << c.what;
-      EXPECT_NE(r.why.find("t.lns"), std::string::npos) << c.what << ": " << r.why;
-    }
-  }
-}
 
 TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMoves) {
   struct Case {
@@ -306,25 +264,6 @@ TEST_F(LinesFileTest, TheTextImportRefusesEachWrongFileWithItsText) {
     EXPECT_NE(r.why.find("t.txt"), std::string::npos) << c.what;
   }
   EXPECT_NE(TextLinesTokens("1,\r\n\xE9").back().line, 1) << "lines are counted";
-}
-
-TEST_F(LinesFileTest, AutoLoadLinesReportsEveryTeamItCouldNotLoad) {
-  WriteLinesDirectory(h.home, dir.string());
-  const LineTable made = Save(dir / "Team0.lns", "secret");
-  Save(dir / "Team1.lns", "secret", 1);
-  Bytes cut = ReadFileBytes(dir / "Team1.lns");
-  cut.resize(100);
-  WriteFileAtomic(dir / "Team1.lns", cut);
-  Save(dir / "Team3.lns", "not the password", 3);  // the password is not tested
-  const std::string report = LoadAutoLines(h.state);
-  EXPECT_EQ(report.substr(0, report.find('(')), "Team1 -- Errors in File ");
-  EXPECT_NE(report.find("Team1.lns is 100 bytes long"), std::string::npos) << report;
-  EXPECT_TRUE(report.ends_with(")\r\nTeam2 -- No Lines file found\r\n")) << report;
-  EXPECT_TRUE(h.ui.told(report, "Lines Loading Report"));
-  const Bytes kept = ReadFileBytes(LinesLoadingReportFile(h.state));
-  EXPECT_EQ(std::string(kept.begin(), kept.end()), report);
-  EXPECT_EQ(h.state.team(0).Lines, made);
-  EXPECT_NE(h.state.team(3).LinesOK, 0);
 }
 
 }  // namespace

@@ -122,41 +122,17 @@ TEST(UnusedPlayers, AssignedPlayersLeaveTheListForTheFirstFreeSlotAndTheTwentySi
   }
 }
 
-TEST(UnusedPlayers, RefusalsChangeNothing) {
+// Its other refusals and the automatic fill's report are the e2e new league transcript's (golden/new.txt).
+TEST(UnusedPlayers, AFullRosterTakesNobody) {
   test::Harness h;
   test::NewBundledLeague(h, 8);
-  UnusedPlayers form(h.state);
-  ASSERT_TRUE(form.cmdAdd(0, 7));
-  std::string seventh = ReadDatabase(h.state)[6].P.Name.str();
   loadteam(h.state, 1, 0);
   for (int slot = 0; slot < kRosterSlots; ++slot) PlaceOnRoster(h.state, 0, slot, test::MakePlayer("Filler", 0, 50), 0);
   SaveTeam(h.state, 1, 0);
-  struct Case {
-    int team, record;
-    std::string told;
-  };
-  for (const Case& c :
-       {Case{0, 0, "There is no player 0 in the database."}, Case{0, 1601, "There is no player 1601 in the database."},
-        Case{2, 7, seventh + " already plays for a team."}, Case{1, 8, "No room on roster"}}) {
-    std::size_t free = form.list().size();
-    EXPECT_FALSE(form.cmdAdd(c.team, c.record)) << c.told;
-    EXPECT_TRUE(h.ui.told(c.told, kTitle)) << c.told;
-    EXPECT_EQ(form.list().size(), free) << c.told;
-  }
-}
-
-TEST(UnusedPlayers, TheAutomaticFillTellsTeamsItCouldNotComplete) {
-  test::Harness h;
-  test::NewBundledLeague(h, 8);
-  std::vector<int> taken;
-  for (int n = 61; n <= 1600; ++n) taken.push_back(n);
-  MarkUsed(h.state, taken);
-  FillResult r = UnusedPlayers(h.state).cmdAuto();
-  ASSERT_FALSE(r.shortTeams.empty());
-  ASSERT_FALSE(h.ui.callsOf("tell").empty());
-  const auto told = h.ui.callsOf("tell").back();
-  EXPECT_EQ(told.title + "|" + told.text.substr(0, 64),
-            std::string(kTitle) + "|60 players assigned.\nNot enough unused players to complete:\nClub");
+  UnusedPlayers form(h.state);
+  EXPECT_FALSE(form.cmdAdd(1, 8));
+  EXPECT_TRUE(h.ui.told("No room on roster", kTitle));
+  EXPECT_EQ(form.list().size(), 1600u);
 }
 
 }  // namespace

@@ -1,12 +1,17 @@
-// The roster editor: its caption, the rating edits' limits, leaving without keeping, and the
-// protection limits. Moves and their refusals, the automatic roster's shortages, releases,
-// protection marks and what leaving stores are the forms transcript's (e2e/golden/forms_rosters.txt).
-#include "team/roster_editor.h"
-
+// The team forms' own rules, which the command line does not reach: the roster editor's caption, its
+// rating edits' limits and leaving without keeping; the protection limits; the coach style and what only
+// the coach forms refuse; a full prospect list. Moves, releases, protection marks, coach edits and hiring,
+// and activating prospects are the forms transcripts' (e2e/golden/forms_rosters.txt, forms_coaches.txt,
+// forms_prospects.txt).
 #include "support/kvl_test.h"
 #include "support/team_rosters.h"
+#include "team/coach_card.h"
+#include "team/coach_list.h"
+#include "team/coach_rules.h"
 #include "team/protection.h"
+#include "team/roster_editor.h"
 #include "team/roster_rules.h"
+#include "team/youth_form.h"
 
 namespace kvl::test {
 namespace {
@@ -75,6 +80,38 @@ TEST(ProtectionTest, LimitsTightenAsMarksAreSpent) {
     ProtectionLimits l = LimitsFor(c.f, c.d, c.g);
     EXPECT_EQ((std::array{l.forwards, l.defence, l.goalies}), (std::array{c.fl, c.dl, c.gl})) << c.f << c.d << c.g;
   }
+}
+
+TEST(CoachRulesTest, StyleFollowsTheGapBetweenOffenceAndDefence) {
+  struct Case {
+    int of, df, style;
+  } cases[] = {{90, 81, 2}, {90, 80, 0}, {80, 90, 1}, {81, 90, 2}, {70, 70, 2}, {50, 99, 1}};
+  for (auto c : cases) EXPECT_EQ(CoachStyle(c.of, c.df), c.style) << c.of << "/" << c.df;
+}
+
+TEST(CoachTest, ThePlainListAndTheCardRefuseToHireOrEdit) {
+  Harness h;
+  h.load(StandardLeague(4));
+  EXPECT_THROW(CoachList(h.state).cmdSelect(1), Refused);
+  EXPECT_TRUE(h.ui.told("You may only hire and fire coaches from Coach | Rosters | Coach Info", "List Coaches"));
+  EXPECT_THROW(RefuseCoachEdit(h.state), Refused);
+  EXPECT_TRUE(h.ui.told(
+      "You cannot change coach attributes here.\nHire a new coach or change ratings from Manager | View All Coaches.",
+      "Edit Coach Info"));
+  h.state.team(2).CoachRec = 101;
+  EXPECT_FALSE(DisplayCoach(h.state, 2).coach) << "a record past the file's end is no coach";
+}
+
+TEST(ProspectsTest, AFullListRefusesBeforeThePrompt) {
+  Harness h;
+  h.load(StandardLeague(2));
+  ViewProspects v(h.state, 0);
+  for (int i = 0; i < kMaxProspects; ++i) ASSERT_EQ(v.cmdAdd("P" + std::to_string(i)), i);
+  EXPECT_EQ(v.cmdAdd(), -1);
+  EXPECT_TRUE(h.ui.told("No room on prospect list", "Add Prospect"));
+  EXPECT_TRUE(h.ui.callsOf("prompt").empty());
+  v.cmdDelete(7);
+  EXPECT_EQ(ViewProspects(h.state, 0).cmdAdd("Again"), 7) << "a deleted entry frees its place, on file too";
 }
 
 }  // namespace
