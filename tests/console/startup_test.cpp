@@ -1,5 +1,6 @@
-// Start-up: the home folder and the search for a league to open. The one-copy lock, a missing
-// league file and a damaged league at start-up are the e2e tests' (golden/bad_input.txt).
+// Start-up: the home folder and the search for a league to open. Opening the league given or the last
+// one, the one-copy lock, a missing league file and a damaged league at start-up are the e2e tests'
+// (golden/info_states.txt, no_league.txt, bad_input.txt).
 #include "console/startup.h"
 
 #include <fstream>
@@ -62,23 +63,6 @@ TEST(StartUp, FindsTheLastLeagueOrSearchesTheHomeFolder) {
     EXPECT_TRUE(c.def != Def::Deleted || h.ui.callsOf("tell")[0].text.find(gone) != std::string::npos) << c.name;
     EXPECT_EQ(found, c.opens == "live" ? live : c.opens.empty() ? "" : (h.home / c.opens).string()) << c.name;
   }
-}
-
-TEST(StartUp, OpensTheLastLeagueTheOneGivenOrNone) {
-  for (bool given : {false, true}) {
-    Harness h;
-    std::string live = test::WriteLeagueIn(h, StandardLeague(8), false, "Metro");
-    if (given)
-      StartUp(h.state, live + ".LGE");
-    else
-      WriteDef(h.home, live), StartUp(h.state, std::nullopt);
-    EXPECT_EQ(h.state.LeaguePath, live);
-    EXPECT_TRUE(h.ui.calls().empty());
-  }
-  Harness h;
-  WriteDef(h.home, (h.dir.path() / "deleted").string());
-  StartUp(h.state, std::nullopt);
-  EXPECT_FALSE(h.state.hasLeague()) << "nothing found: no league is open";
 }
 
 }  // namespace

@@ -103,9 +103,8 @@ TEST(Cli, InfoTellsTheStateAndTheMenuAndTouchesNothing) {
   Metro lg;
   const Snapshot before = lg.files();
   lg.pinLeague = false;
-  lg.kvl({"--league", lg.path, "info"});
-  const Bytes def = ReadFileBytes(lg.home / "kvl.def");
-  EXPECT_EQ(std::string(def.begin(), def.end()), lg.path + "\r\n");
+  lg.kvl({"--league", lg.path + ".LGE", "info"});  // the extension in any case
+  EXPECT_EQ(ReadAll(lg.home / "kvl.def"), lg.path + "\r\n");
   lg.kvl({"info"});  // the last league opens without --league
   lg.pinLeague = true;
   const Bytes lge = ReadFileBytes(lg.path + ".lge");
@@ -172,45 +171,21 @@ TEST(Cli, BadInputIsNamedAndChangesNothing) {
         lg.pinLeague = false;
         lg.kvl({"--yes", "load", lg.path + ".lge"});
       });
-  run(
-      [](Metro& lg) {
-        RecordFile ros(lg.path + ".ros", Player::kSize);
-        Player p = ros.getRecord<Player>(2 * kRosterSlots + 12 + 1);
-        p.Ratings[kSpd] = 255;
-        ros.putRecord(2 * kRosterSlots + 12 + 1, p);
-      },
-      [](Metro& lg) {
-        lg.kvl({"--no", "exhibition", "2", "3"});
-      });
-  run(
-      [](Metro& lg) {
-        League header = DecodeRecord<League>(ReadFileBytes(lg.path + ".lge"));
-        header.Conf[0].Div[1].Team[2] = 187;
-        WriteFileAtomic(lg.path + ".lge", EncodeRecord(header));
-      },
-      [](Metro& lg) {
-        lg.kvl({"--no", "align", "show"});
-      });
-  run(
-      [](Metro& lg) {
-        fs::remove(lg.path + ".ros");
-        fs::create_directory(lg.path + ".ros");
-      },
-      [](Metro& lg) {
-        lg.kvl({"--no", "info"});
-      });
+  const auto slowest = [](Player& p) { p.Ratings[kSpd] = 255; };
+  run([&](Metro& lg) { EditRecord<Player>(lg.path + ".ros", 2 * kRosterSlots + 13, slowest); },
+      [](Metro& lg) { lg.kvl({"--no", "exhibition", "2", "3"}); });
+  const auto strayTeam = [](League& l) { l.Conf[0].Div[1].Team[2] = 187; };
+  run([&](Metro& lg) { EditRecord<League>(lg.path + ".lge", 1, strayTeam); },
+      [](Metro& lg) { lg.kvl({"--no", "align", "show"}); });
+  run([](Metro& lg) { fs::remove(lg.path + ".ros"), fs::create_directory(lg.path + ".ros"); },
+      [](Metro& lg) { lg.kvl({"--no", "info"}); });
   // A file missing from the last league: the run ends, and the next start searches.
-  run(
-      [](Metro& lg) {
+  run([](Metro& lg) {
         fs::remove(lg.path + ".coa");
         lg.pinLeague = false;
-        fs::create_directories(lg.home);
-        WriteFileAtomic(lg.home / "kvl.def", Bytes(lg.path.begin(), lg.path.end()));
+        WriteText(lg.home / "kvl.def", lg.path);
       },
-      [](Metro& lg) {
-        lg.kvl({"--yes", "info"});
-        lg.kvl({"info"});
-      });
+      [](Metro& lg) { lg.kvlEach({{"--yes", "info"}, {"info"}}); });
   ExpectGolden(__FILE__, "bad_input.txt", transcript);
 }
 

@@ -6,8 +6,6 @@
 namespace kvl::test {
 namespace {
 
-// ---- load then save ----------------------------------------------------------
-
 // Upper-case extensions are found, and saved in place.
 TEST(LeagueFiles, LoadThenSaveLeavesEveryFileByteIdentical) {
   struct Row {
@@ -90,8 +88,6 @@ TEST(LeagueFiles, WorkStaysInTheSwapFilesUntilTheSaveWritesIt) {
   EXPECT_EQ(ReadFileBytes(h.state.swap(swp::Waivers)), swap);
 }
 
-// ---- swap files that go missing ------------------------------------------------
-
 // A league without .wvr also loses the Waived marks its teams were saved with;
 // one without .pct keeps the prospects of the league loaded before.
 TEST(LeagueFiles, AMissingSwapDeletesItsFileAndMissingFilesDeleteStaleSwaps) {
@@ -122,14 +118,11 @@ TEST(LeagueFiles, AMissingSwapDeletesItsFileAndMissingFilesDeleteStaleSwaps) {
   for (int t = 0; t < 8; ++t) EXPECT_EQ(h.state.team(t).Waived, kFalse) << t;
 }
 
-// ---- what LoadLg reads ----------------------------------------------------------
-
 // A point system above 3 is reset outside the playoffs (kept in them: below).
 TEST(LeagueFiles, HeaderCountsDivisionsAndPointSystemAndOnlyThatManyTeams) {
   struct Case {
-    int storedTeams;
-    int numDivs0, numDivs1, pointSystem;
-    int teams, divs0, divs1, points;
+    int storedTeams, numDivs0, numDivs1, pointSystem;  // as stored
+    int teams, divs0, divs1, points;                   // as loaded
   };
   for (Case c : {Case{7, 2, 3, 3, 8, 2, 3, 3},
                  {255, 0, 0, 4, 0, 2, 2, 0},
@@ -173,8 +166,6 @@ TEST(LeagueFiles, PlayoffStateIsWrittenOnlyInPlayoffs) {
   EXPECT_EQ(ReadFileBytes(path + ".plf")[80 + 3], 4);
 }
 
-// ---- loadteam and SaveTeam ---------------------------------------------------
-
 TEST(LoadTeam, EmptySlotsAreZeroConditionZeroIsFullAndSaveTeamWritesOnlyThatTeam) {
   Harness h;
   auto plan = StandardLeague(8);
@@ -207,8 +198,6 @@ TEST(LoadTeam, EmptySlotsAreZeroConditionZeroIsFullAndSaveTeamWritesOnlyThatTeam
   EXPECT_EQ(RecordFile(h.state.swap(swp::Prospects), ProspectList::kSize).getRecord<ProspectList>(3).Age[0], 19);
 }
 
-// ---- failures ------------------------------------------------------------------
-
 // (That kvl.def goes and no file changes is checked by running kvl.)
 TEST(LeagueFiles, AMissingRequiredFileIsToldAndEndsTheProgram) {
   for (std::string ext : {".tms", ".ros", ".lge", ".drs", ".dpk", ".coa", ".plf"}) {
@@ -234,22 +223,10 @@ TEST(LeagueFiles, ADamagedFileIsRefusedWithFilesAndSwapUntouched) {
     const char* ext;
     std::uintmax_t size;  // the file cut or swollen to this
     int storedTeams = -1;
-  } rows[] = {{".tms", 9 * 254},
-              {".tms", 10 * 254 - 1},
-              {".lge", 458},
-              {".lge", 460},
-              {".lge", 0},
-              {".ros", 500 * 86 + 3},
-              {".pct", 2700 * 3 + 1},
-              {".drs", 87},
-              {".dpk", 1536 * 10 - 6},
-              {".coa", 31 * 10 + 30},
-              {".wvr", 134 * 2 + 1},
-              {".scx", 31 * 12 - 1},
-              {".csr", 87 * 3 - 2},
-              {".fas", 1350 * 10 - 10},
-              {".dft", 47 * 5 + 4},
-              {".frm", 43 * 10 - 1},
+  } rows[] = {{".tms", 9 * 254},        {".tms", 10 * 254 - 1}, {".lge", 458},           {".lge", 460},
+              {".lge", 0},              {".ros", 500 * 86 + 3}, {".pct", 2700 * 3 + 1},  {".drs", 87},
+              {".dpk", 1536 * 10 - 6},  {".coa", 31 * 10 + 30}, {".wvr", 134 * 2 + 1},   {".scx", 31 * 12 - 1},
+              {".csr", 87 * 3 - 2},     {".fas", 1350 * 10 - 10}, {".dft", 47 * 5 + 4},  {".frm", 43 * 10 - 1},
               {".lge", 459, 50}};  // 51 teams
   for (const Row& r : rows) {
     Harness h;
@@ -275,8 +252,6 @@ TEST(LeagueFiles, ADamagedFileIsRefusedWithFilesAndSwapUntouched) {
     EXPECT_EQ(std::pair(h.state.LeaguePath, h.state.numTeams()), std::pair(first, 8)) << r.ext;
   }
 }
-
-// ---- save as -------------------------------------------------------------------
 
 TEST(SaveLeagueAs, AsksForTheFileAndConfirmsOverwriting) {
   struct Case {
@@ -372,8 +347,6 @@ TEST(SaveFaults, EveryStopLeavesTheOldLeagueOrTheNew) {
     EXPECT_GT(saved, 10) << target << ": stops after it end with the new";
   }
 }
-
-// ---- one copy a league -----------------------------------------------------------
 
 TEST(LeagueLock, ASecondCopyIsRefusedUntilTheFirstClosesButALeftLockFileDoesNotBlock) {
   Harness first;

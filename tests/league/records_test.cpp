@@ -64,54 +64,46 @@ TEST(RecordLayout, ListingMatchesTheFileFormatsAndBytesSurvive) {
   test::ExpectGolden(__FILE__, "record_layouts.txt", text);
 }
 
-TEST(RecordLayout, PlayerRatingsAndTeamLinesByIndex) {
-  // Int at 32 through Ldr at 44 and the spare at 45; lines at row + 13 x slot.
+// Every byte of the record that differs from a default one, as offset=value in hex.
+template <class R>
+std::string Set(const std::string& what, const R& r) {
+  const Bytes b = EncodeRecord(r), blank = EncodeRecord(R{});
+  std::string out = what;
+  for (std::size_t i = 0; i < b.size(); ++i)
+    if (b[i] != blank[i]) out += fmt::format(" {}={:02X}", i, b[i]);
+  return out + "\n";
+}
+
+// Where indexed and nested fields land: ratings from Int at 32, lines at row +
+// 13 x slot from 174, the sliders at 432, arrays of arrays slot fastest, a
+// playoff series at stage + 5 x series; integers little-endian, booleans all
+// ones, a Double in IEEE form.
+TEST(RecordLayout, IndexedFieldsAndNumbersByTheByte) {
+  std::string text;
   for (int r = kInt; r <= kRatingSpare; ++r) {
     Player p;
     p.rating(r) = 0xA5;
-    Bytes b = EncodeRecord(p);
-    EXPECT_EQ(std::find(b.begin(), b.end(), 0xA5) - b.begin(), 32 + r) << "rating " << r;
+    text += Set(fmt::format("rating {}", r), p);
   }
   for (auto [row, slot] : {std::pair{0, 0}, {12, 0}, {0, 1}, {2, 3}, {12, 4}}) {
     Team t;
     t.Lines.at(row, slot) = 7;
-    Bytes b = EncodeRecord(t);
-    EXPECT_EQ(std::find(b.begin(), b.end(), 7) - b.begin(), 174 + row + 13 * slot) << row << "," << slot;
+    text += Set(fmt::format("line {} slot {}", row, slot), t);
   }
-}
-
-TEST(RecordLayout, LeagueSlidersInOrder) {
   League lg;
   lg.InjuriesLevel() = 1, lg.ShotsLevel() = 2, lg.PenaltiesLevel() = 3, lg.GoalsLevel() = 4, lg.FinancesLevel() = 5;
-  Bytes b = EncodeRecord(lg);
-  EXPECT_EQ(Bytes(b.begin() + 432, b.begin() + 437), (Bytes{1, 2, 3, 4, 5}));
-}
-
-TEST(RecordLayout, ArraysOfArraysVarySlotFastest) {
   ContractFuture f;
   f.OwnerTeam[2][7] = 0xAB;
   f.Amount[4][49] = 0x01020304;
-  Bytes b = EncodeRecord(f);
-  EXPECT_EQ(b[100 + 2 * 50 + 7], 0xAB);
-  std::size_t at = 350 + 4 * (4 * 50 + 49);
-  EXPECT_EQ((Bytes{b[at], b[at + 1], b[at + 2], b[at + 3]}), (Bytes{4, 3, 2, 1}));
-
-  PlayoffState p;
-  p.SeriesAway[PlayoffState::Index(3, 1)] = 9;  // stage + 5 x series
-  EXPECT_EQ(EncodeRecord(p)[40 + 3 + 5], 9);
-}
-
-TEST(RecordLayout, IntegersAreLittleEndianAndBooleansAllOnes) {
+  PlayoffState ps;
+  ps.SeriesAway[PlayoffState::Index(3, 1)] = 9;
   Player p;
   p.Salary = 0x01020304, p.Plus = -2, p.Rookie = kTrue;
-  Bytes b = EncodeRecord(p);
-  EXPECT_EQ((Bytes{b[46], b[47], b[48], b[49], b[55], b[56], b[24], b[25]}),
-            (Bytes{4, 3, 2, 1, 0xFE, 0xFF, 0xFF, 0xFF}));
-
   WaiverRecord w;
-  w.WaivedAt = 2.5;  // 0x4004000000000000
-  Bytes wb = EncodeRecord(w);
-  EXPECT_EQ((Bytes(wb.begin() + 24, wb.begin() + 32)), (Bytes{0, 0, 0, 0, 0, 0, 0x04, 0x40}));
+  w.WaivedAt = 2.5;
+  text += Set("sliders 1-5", lg) + Set("owner [2][7], amount [4][49]", f) + Set("series away (3, 1)", ps) +
+          Set("salary, plus -2, rookie", p) + Set("waived at 2.5", w);
+  test::ExpectGolden(__FILE__, "field_bytes.txt", text);
 }
 
 TEST(RecordLayout, ShortInputIsAnError) {
