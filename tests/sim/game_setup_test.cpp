@@ -79,9 +79,11 @@ TEST(SetupGame, CheckingClassFollowsDisciplineThenIntelligenceAndStrength) {
   }
 }
 
-// (The line sums, the fresh line left on, and who is dressed and starts are
-// part of every game: the golden box score pins them.)
-TEST(SetLine, OutOfPositionByTemplate) {
+// Out of position by the line's template; at even strength a forward holds back
+// only three goals up and better at defence. (The line sums, the fresh line
+// left on, who is dressed and starts, a defenceman, the checking line and the
+// special teams are in every game: the golden box score pins them.)
+TEST(SetLine, OutOfPositionAndAForwardHoldingBack) {
   GameFixture f(SimLeague(4));
   GameSide& s = f.side(0);
   s.Lines[1][0] = 8;  // a right wing in the left wing's seat
@@ -93,14 +95,6 @@ TEST(SetLine, OutOfPositionByTemplate) {
   EXPECT_EQ(s.OutOfPosition[9], 0);
   f.game.SetLine(0, 7);
   EXPECT_EQ(s.OutOfPosition[2], -1);
-}
-
-// At even strength a forward holds back only three goals up and better at
-// defence. (A defenceman, the checking line and the special teams are in every
-// game: the golden box score pins them.)
-TEST(SetLine, AForwardHoldsBackThreeGoalsUpWhenBetterAtDefence) {
-  GameFixture f(SimLeague(4));
-  GameSide& s = f.side(0);
   s.offenseRating[1] = 40;
   s.defenseRating[1] = 50;
   for (int goals : {2, 3}) {

@@ -1,10 +1,12 @@
 // Hits, injuries in play, what an injury costs after the game, and healing.
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
 
 #include "league/league_files.h"
 #include "sim/injuries.h"
+#include "support/golden.h"
 #include "support/sim_league.h"
 #include "util/record_file.h"
 
@@ -58,44 +60,34 @@ TEST_F(InjuryTest, RecoverDayCanDropSeveralClassesAtOnce) {
   EXPECT_EQ(std::tuple(p.Condition, p.Status), std::tuple(21, 106));
 }
 
-TEST_F(InjuryTest, DurablePlayerShrugsItOff) {
-  Player& p = P(5);
-  p.rating(kDur) = 255;  // every draw of 200 falls below
-  DecideInjury(f.h.state, 0, 0, 5);
-  EXPECT_EQ(std::tuple(p.Condition, p.Status), std::tuple(100, 200));
-  EXPECT_EQ(TransactionLog(f.h.state), "");
-}
-
-TEST_F(InjuryTest, FragilePlayerFallsBackToDayToDay) {
-  RemoveIfExists(f.h.state.AppPath / "inj.dtf");  // no texts: the plain one
-  Player& p = P(5);
-  p.rating(kDur) = 0;  // walks all the way up, then falls back
-  f.h.state.team(0).LinesOK = kTrue;
-  DecideInjury(f.h.state, 0, 0, 5);
-  EXPECT_EQ(std::tuple(p.Condition, p.Status, p.InjuryType), std::tuple(85, 201, 0));
-  EXPECT_FALSE(f.h.state.team(0).LinesOK);
-  EXPECT_EQ(TransactionLog(f.h.state), "T0 L 2 (T00) suffers injury , sidelined day-to-day<BR><BR>\r\n");
-}
-
-TEST_F(InjuryTest, TextComesFromTheInjuryFileByClass) {
-  RemoveIfExists(f.h.state.AppPath / "inj.dtf");
-  RecordFile file(f.h.state.AppPath / "inj.dtf", InjuryText::kSize);
-  auto put = [&](std::size_t n, const char* text, int c) {
-    InjuryText t;
-    t.Text.set(text);
-    t.Class = static_cast<u8>(c);
-    file.putRecord(n, t);
-  };
-  put(1, "Broken Leg", 5);
-  put(2, "Bruised Knee", 1);
-  put(3, "Sore Back", 1);
-  P(5).rating(kDur) = 0;
-  DecideInjury(f.h.state, 0, 0, 5);
-  int type = P(5).InjuryType;
-  ASSERT_TRUE(type == 2 || type == 3);
-  EXPECT_EQ(TransactionLog(f.h.state), std::string("T0 L 2 (T00) suffers ") +
-                                           (type == 2 ? "Bruised Knee" : "Sore Back") +
-                                           ", sidelined day-to-day<BR><BR>\r\n");
+// The golden holds what each injury decided left: a durable player shrugs it
+// off; a fragile one walks all the way up the classes, then falls back to
+// day-to-day, named by the injury file's texts of that class (or the plain
+// text without the file), and his team's lines must be set again.
+TEST(DecideInjury, ByDurabilityAndTheInjuryFile) {
+  const std::vector<std::pair<const char*, std::vector<std::pair<const char*, int>>>> cases{
+      {"durable", {}}, {"fragile, no injury file", {}},
+      {"fragile, texts", {{"Broken Leg", 5}, {"Bruised Knee", 1}, {"Sore Back", 1}}}};
+  std::string text;
+  for (const auto& [name, texts] : cases) {
+    GameFixture f(SimLeague(4));
+    LeagueState& s = f.h.state;
+    RemoveIfExists(s.swap(swp::Transactions));
+    if (name != std::string("durable")) RemoveIfExists(s.AppPath / "inj.dtf");
+    for (std::size_t n = 0; n < texts.size(); ++n) {
+      InjuryText t;
+      t.Text.set(texts[n].first);
+      t.Class = static_cast<u8>(texts[n].second);
+      RecordFile(s.AppPath / "inj.dtf", InjuryText::kSize).putRecord(n + 1, t);
+    }
+    Player& p = s.player(0, 5);
+    p.rating(kDur) = name == std::string("durable") ? 255 : 0;  // every draw of 200 below, or none
+    s.team(0).LinesOK = kTrue;
+    DecideInjury(s, 0, 0, 5);
+    text += fmt::format("--- {}\ncondition {} status {} type {} lines set {}\n{}", name, p.Condition, p.Status,
+                        p.InjuryType, s.team(0).LinesOK != 0, TransactionLog(s));
+  }
+  ExpectGolden(__FILE__, "decide_injury.txt", text);
 }
 
 TEST_F(InjuryTest, NoInjuriesWhenTheOptionIsOff) {

