@@ -47,7 +47,7 @@ TEST(DemoCli, TheSameSeedMakesTheSameLeague) {
   CliLeague again;
   ASSERT_EQ(again.kvl({"demo", "--teams", "8", "--seed", "7"}).status, 0);
   EXPECT_EQ(SnapshotDir(again.home, "Demo"), SnapshotDir(DemoHome(), "Demo"));
-  again.kvl({"info"});
+  again.kvlEach({{"info"}, {"view-all-coaches"}, {"view-team", "0"}, {"view-team", "7"}});
   again.kvl({"demo", "--teams", "51"});
   again.kvl({"demo", "--help"});
   again.expectTranscript(__FILE__, "demo.txt");
@@ -109,12 +109,16 @@ TEST(DemoCli, AnEntryDraftThenAnExpansionTeamStockedAndScheduled) {
   LoadLg(before.state, lg.path);
   before.state.leagueLock.release();
   const int teams = before.state.numTeams(), rounds = before.state.league.DraftRounds;
-  // The first names of the database that no team holds, and one that is not in it.
-  std::string list;
+  // The first 100 names of the database that no team holds; left out: a blank line, a name twice (the
+  // second on a line of two), a player a team holds, a name too long and one not in the database.
+  std::vector<std::string> free;
+  std::string held;
   RecordFile db(lg.path + ".drs", DbRecord::kSize);
-  for (std::size_t n = 1, left = 100; n <= db.count() && left > 0; ++n)
-    if (const DbRecord r = db.getRecord<DbRecord>(n); r.DbFlag == 0 && !r.P.empty())
-      list += r.P.Name.str() + "\n", --left;
+  for (std::size_t n = 1; n <= db.count() && free.size() < 100; ++n)
+    if (const DbRecord r = db.getRecord<DbRecord>(n); !r.P.empty())
+      (r.DbFlag ? held : free.emplace_back()) = r.P.Name.str();
+  std::string list = free[0] + "\r\n\n\"" + free[1] + "\", " + free[0] + "\n" + held + "\n" + free[2] + "xxxxxxxxxx\n";
+  for (std::size_t i = 2; i < free.size(); ++i) list += free[i] + "\n";
   WriteText(lg.dir.path() / "list.txt", list + "Nobody Atall\n");
   lg.kvlEach({{"--yes", "entry-draft", "--list", (lg.dir.path() / "list.txt").string()},
               {"--yes", "entry-draft", "--auto", "3"},
