@@ -18,11 +18,9 @@ struct Terminal {
 // Until it gets an answer; at end of input No, or Cancel where there is one.
 TEST(TerminalUi, AsksUntilItGetsAnAnswerAndAnswersGivenInAdvanceComeFirst) {
   using Buttons::YesNo, Buttons::YesNoCancel;
-  const std::tuple<std::string, Buttons, Answer> cases[] = {{"yes\n", YesNo, Answer::Yes},
-                                                            {"maybe\nc\n", YesNoCancel, Answer::Cancel},
-                                                            {"", YesNo, Answer::No},
-                                                            {"", YesNoCancel, Answer::Cancel},
-                                                            {"N\r\n", YesNoCancel, Answer::No}};
+  const std::tuple<std::string, Buttons, Answer> cases[] = {
+      {"yes\n", YesNo, Answer::Yes}, {"maybe\nc\n", YesNoCancel, Answer::Cancel}, {"", YesNo, Answer::No},
+      {"", YesNoCancel, Answer::Cancel}, {"N\r\n", YesNoCancel, Answer::No}};
   for (const auto& [typed, buttons, answer] : cases) {
     Terminal t(typed);
     EXPECT_EQ(t.ui.ask("Save League Changes?", "Keep Changes", buttons), answer) << typed;

@@ -11,10 +11,7 @@ namespace kvl {
 namespace {
 
 TEST(Int, FloorsTowardMinusInfinity) {
-  EXPECT_EQ(Int(2.7), 2.0);
-  EXPECT_EQ(Int(-2.3), -3.0);
-  EXPECT_EQ(Int(-2.0), -2.0);
-  EXPECT_EQ(Int(0.5), 0.0);
+  EXPECT_EQ(std::tuple(Int(2.7), Int(-2.3), Int(-2.0), Int(0.5)), std::tuple(2.0, -3.0, -2.0, 0.0));
 }
 
 // Outside 16 bits (no value given) the old platform stopped with "Overflow".
