@@ -6,7 +6,9 @@
 
 #include <cmath>
 
+#include "league/league_files.h"
 #include "sim/farm_game.h"
+#include "support/golden.h"
 #include "support/sim_league.h"
 
 namespace kvl::test {
@@ -144,6 +146,22 @@ TEST(SuspensionDays, OneGameUnlessTheInjuryOrTheFightWasBad) {
       EXPECT_GT(most, 1) << r.why;
     }
   }
+}
+
+// An ejected player is suspended after the game: the games on his record, a note
+// on the box score and a line in the league's log.
+TEST(Suspension, TheGamesAreKeptNotedAndLogged) {
+  GameFixture f(SimLeague(4));
+  f.h.state.league.OptSuspensions = kTrue;
+  f.side(0).Status[kFirstD] = kEjectedSuspend;
+  const BoxScoreInfo info{.kind = GameKind::RegularSeason, .gameNumber = 1, .farmLines = {}};
+  const std::string page = ReadAll(FinishGame(f.game, info));
+  const Player& p = f.h.state.player(0, kFirstD);
+  const std::string days = std::to_string(p.Suspended), name = f.game.PlayerName(0, kFirstD);
+  EXPECT_TRUE(p.Suspended >= 1 && p.Suspended <= 5 && p.Status == 100) << int(p.Suspended);
+  EXPECT_NE(page.find(name + " receives " + days + " game suspension<BR>"), std::string::npos);
+  EXPECT_NE(ReadAll(f.h.state.swap(swp::Transactions)).find(name + " (T00) suspended " + days + " games"),
+            std::string::npos);
 }
 
 TEST(FarmGame, AClubWithoutAGoalieStillPlays) {
