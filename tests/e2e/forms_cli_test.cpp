@@ -286,7 +286,7 @@ TEST(FormsCli, ProspectsActivated) {
               {"player", "0", "25"},
               {"--yes", "view-prospects", "0", "--add", "Ann Ace", "--activate", "Ann Ace"}});  // her record is used
   lg.note("log: " + ReadAll(lg.path + ".tra"));
-  lg.expectTranscript(__FILE__, "forms_prospects.txt");
+  lg.expectTranscript(__FILE__, "forms_youth.txt");
 }
 
 // Three draft rounds; each team has $1,000,000 and a prospect; teams 2 and 3 have full rosters and

@@ -2,7 +2,7 @@
 // rating edits' limits and leaving without keeping; the protection limits; the coach style and what only
 // the coach forms refuse; a full prospect list. Moves, releases, protection marks, coach edits and hiring,
 // and activating prospects are the forms transcripts' (e2e/golden/forms_rosters.txt, forms_coaches.txt,
-// forms_prospects.txt).
+// forms_youth.txt).
 #include "support/kvl_test.h"
 #include "support/team_rosters.h"
 #include "team/coach_card.h"
