@@ -76,13 +76,8 @@ void SaveDemo(LeagueState& s) {
   LoadLg(s, base);
 }
 
-// The suggested schedule; placement can fail on a draw, so a few presses.
 void MakeDemoSchedule(LeagueState& s) {
-  constexpr int kPresses = 10;
-  ScheduleForm form(s);
-  for (int press = 0; press < kPresses; ++press)
-    if (form.cmdNewSchedule() == ScheduleOutcome::Made) return;
-  throw KvlError("the demo league's schedule could not be made");
+  if (!MakeSuggestedSchedule(s)) throw KvlError("the demo league's schedule could not be made");
 }
 
 void PlayDemoSeason(LeagueState& s, DemoSummary& d) {

@@ -17,11 +17,8 @@ class Ui;
 
 namespace fs = std::filesystem;
 
-struct LeagueState {
-  LeagueState(Ui& ui, const Clock& clock, fs::path appPath) : ui(ui), clock(clock), AppPath(std::move(appPath)) {}
-
-  Ui& ui;
-  const Clock& clock;
+// What a league is, apart from who it talks to and where its swap files lie.
+struct LeagueData {
   Rnd rnd;
 
   League league;
@@ -34,18 +31,15 @@ struct LeagueState {
   PlayoffState Playoff;
 
   bool Dirty = false;
-  fs::path AppPath;        // the home folder: swap files, defaults, kvl.def
   std::string LeaguePath;  // full path without extension; empty for an unnamed league
   std::string LeagueShort;
   u8 CurTeam = 0;
   u8 CurPlayer = 0;
 
-  bool hasLeague() const { return loaded; }
   bool loaded = false;
 
   // Where league files are written; a test puts one in that fails on demand.
   FileSystem* fileSystem = &RealFileSystem();
-  FileSystem& files() const { return *fileSystem; }
   // Held on the open league's lock file, so no other copy opens it. A copy of
   // the state (the engine's parallel runs) holds no lock of its own.
   struct LeagueLock : FileLock {
@@ -54,6 +48,22 @@ struct LeagueState {
     using FileLock::operator=;
   };
   LeagueLock leagueLock;
+};
+
+struct LeagueState : LeagueData {
+  LeagueState(Ui& ui, const Clock& clock, fs::path appPath) : ui(ui), clock(clock), AppPath(std::move(appPath)) {}
+  // The same league talking to another Ui, on swap files in another folder
+  // (a season played on a copy); the caller copies the swap files there.
+  LeagueState(const LeagueState& from, Ui& otherUi, fs::path appPath)
+      : LeagueData(from), ui(otherUi), clock(from.clock), AppPath(std::move(appPath)) {}
+  LeagueState(const LeagueState&) = default;
+
+  Ui& ui;
+  const Clock& clock;
+  fs::path AppPath;  // the home folder: swap files, defaults, kvl.def
+
+  bool hasLeague() const { return loaded; }
+  FileSystem& files() const { return *fileSystem; }
 
   kvl::Player& player(int side, int slot) { return Player[static_cast<std::size_t>(side)][static_cast<std::size_t>(slot)]; }
   const kvl::Player& player(int side, int slot) const {

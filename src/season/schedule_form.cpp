@@ -176,4 +176,12 @@ ScheduleOutcome ScheduleForm::cmdSchedule() {
   return ScheduleOutcome::Made;
 }
 
+bool MakeSuggestedSchedule(LeagueState& s) {
+  constexpr int kPresses = 10;
+  ScheduleForm form(s);
+  for (int press = 0; press < kPresses; ++press)
+    if (form.cmdNewSchedule() == ScheduleOutcome::Made) return true;
+  return false;
+}
+
 }  // namespace kvl

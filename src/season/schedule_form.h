@@ -66,6 +66,10 @@ class ScheduleForm {
   std::optional<AllotGameLog> log_;
 };
 
+// The suggested schedule of the league's size, made with the day-filling
+// maker; placement can fail on a draw, so a few presses. False when none made it.
+bool MakeSuggestedSchedule(LeagueState& s);
+
 // The main console's Make Schedule: the form opens only for a league of at
 // least 8 teams whose expansion teams have been stocked. Tells why not.
 bool ScheduleFormMayOpen(LeagueState& s);
