@@ -7,6 +7,7 @@
 #include "reports/page_files.h"
 #include "sim/exhibition.h"
 #include "sim/game_day.h"
+#include "sim/season_profile.h"
 #include "sim/sim_profile.h"
 
 namespace kvl {
@@ -72,6 +73,7 @@ void RegisterSimProfile(CLI::App& app, Session& s) {
   struct Args {
     int games = 1000;
     int jobs = 1;
+    bool season = false;
     std::vector<std::string> pair;
     std::optional<int> shots, goals, penalties, injuries;
   };
@@ -80,6 +82,7 @@ void RegisterSimProfile(CLI::App& app, Session& s) {
       app, s, "sim-profile",
       "Play many exhibition games in memory and print the means per team and game (nothing is saved)", true,
       [&s, args] {
+        if (args->season) return s.ui.print(SeasonProfileText(RunSeasonProfile(s.state, args->jobs)));
         ProfileOptions o;
         o.games = args->games;
         if (!args->pair.empty()) o.pair = {ResolveTeam(s.state, args->pair[0]), ResolveTeam(s.state, args->pair[1])};
@@ -90,15 +93,19 @@ void RegisterSimProfile(CLI::App& app, Session& s) {
         o.jobs = args->jobs;
         s.ui.print(ProfileText(RunProfile(s.state, o)));
       });
-  cmd->add_option("--games", args->games, "how many games (default 1000)")->check(kPositiveWhole);
-  cmd->add_option("--pair", args->pair, "play only AWAY at HOME")->expected(2);
+  auto* games = cmd->add_option("--games", args->games, "how many games (default 1000)")->check(kPositiveWhole);
+  auto* pair = cmd->add_option("--pair", args->pair, "play only AWAY at HOME")->expected(2);
+  auto* season = cmd->add_flag("--season", args->season,
+                               "play the league's regular season on a copy, in one run and day by day, and print "
+                               "its figures by sixth of the season (a schedule is made when it has none)");
+  season->excludes(games)->excludes(pair);
   cmd->add_option("--jobs", args->jobs, "threads to play on; the figures are the same for any number (default 1)")
       ->check(CLI::Range(1, 64));
   auto level = CLI::Range(1, 9);
-  cmd->add_option("--shots-level", args->shots, "ShotsLevel for this run (1-9)")->check(level);
-  cmd->add_option("--goals-level", args->goals, "GoalsLevel for this run (1-9)")->check(level);
-  cmd->add_option("--penalties-level", args->penalties, "PenaltiesLevel for this run (1-9)")->check(level);
-  cmd->add_option("--injuries-level", args->injuries, "InjuriesLevel for this run (1-9)")->check(level);
+  cmd->add_option("--shots-level", args->shots, "ShotsLevel for this run (1-9)")->check(level)->excludes(season);
+  cmd->add_option("--goals-level", args->goals, "GoalsLevel for this run (1-9)")->check(level)->excludes(season);
+  cmd->add_option("--penalties-level", args->penalties, "PenaltiesLevel for this run (1-9)")->check(level)->excludes(season);
+  cmd->add_option("--injuries-level", args->injuries, "InjuriesLevel for this run (1-9)")->check(level)->excludes(season);
 }
 
 }  // namespace

@@ -28,7 +28,7 @@ constexpr int kNeedPlayers = 20;
 
 constexpr const char* kHeading = "Games cannot be run with invalid rosters:";
 
-void WriteInvalidRosters(LeagueState& s, const RosterReport& r) {
+void WriteInvalidRosters(LeagueState& s, const RosterReport& r, bool nameTeams) {
   fs::path file = s.AppPath / "InvalidRosters.txt";
   std::ofstream out(file, std::ios::binary | std::ios::trunc);
   double now = s.clock.now();
@@ -37,8 +37,16 @@ void WriteInvalidRosters(LeagueState& s, const RosterReport& r) {
   out << "League Roster Validation performed " << FormatDate(now, "dddd, mmm d yyyy") << " "
       << FormatDate(now, "hh:mm:ss AMPM") << "\r\n";
   for (const auto& block : r.lines) out << block;
+  // Before games the message names the teams that cannot play; at load (a
+  // new league has no players yet) the file alone has them.
+  std::string text;
+  if (nameTeams) {
+    text = "Invalid roster configurations were detected in the following league files:\r\n" + s.LeaguePath +
+           ".ros\r\n";
+    for (const auto& block : r.failing) text += block;
+  }
   s.ui.progress("Invalid Rosters Detected", kHeading, 0, 0);
-  s.ui.tell("Details saved in " + file.string(), kHeading);
+  s.ui.tell(text + "Details saved in " + file.string(), kHeading);
   s.ui.progressDone();
 }
 
@@ -76,14 +84,15 @@ RosterReport CheckRosters(LeagueState& s) {
   for (int t = 0; t < s.numTeams(); ++t) {
     bool ok = true;
     r.lines.push_back(RosterLine(s, t, ok));
+    if (!ok) r.failing.push_back(r.lines.back());
     r.allValid = r.allValid && ok;
   }
   return r;
 }
 
-bool RosterCheck(LeagueState& s) {
+bool RosterCheck(LeagueState& s, bool beforeGames) {
   RosterReport r = CheckRosters(s);
-  if (!r.allValid) WriteInvalidRosters(s, r);
+  if (!r.allValid) WriteInvalidRosters(s, r, beforeGames);
   CoachCheck(s);
   return r.allValid;
 }

@@ -13,6 +13,7 @@ namespace kvl {
 // OK!", every line ending in CR LF.
 struct RosterReport {
   std::vector<std::string> lines;
+  std::vector<std::string> failing;  // the lines of the teams that cannot play
   bool allValid = true;
 };
 
@@ -23,8 +24,9 @@ std::vector<std::string> RosterShortages(int total, const std::array<int, 5>& by
 std::string RosterLine(LeagueState& s, int t, bool& ok);
 RosterReport CheckRosters(LeagueState& s);
 // Runs the roster check with its messages and InvalidRosters.txt, then the coach
-// check. True when every roster can play.
-bool RosterCheck(LeagueState& s);
+// check. True when every roster can play. Before games the message names the
+// teams that cannot play and what they lack.
+bool RosterCheck(LeagueState& s, bool beforeGames = false);
 // Repairs broken links between teams and the coach file, telling each repair.
 void CoachCheck(LeagueState& s);
 

@@ -22,10 +22,17 @@ std::size_t At(int i) { return static_cast<std::size_t>(i); }
 
 std::string Tag(const Game& g, int sd, int slot) { return g.PlayerName(sd, slot) + " (" + g.TeamAbbrev(sd) + ")"; }
 
+// The automatic roster dresses the team anew before its next game, as after an
+// injury: a suspended player's place is filled, and a returning one is back in
+// the pool it picks from.
+void ClearLines(Game& g, int sd) { g.s.team(g.sideOf(sd).team).LinesOK = kFalse; }
+
 void CountSuspension(Game& g, int sd, int slot) {
   Player& p = g.player(sd, slot);
   if (p.Suspended == 0 || p.Suspended == kHoldOut || p.Suspended == kPersonal) return;
-  if (--p.Suspended == 0) AppendTransaction(g.s, Tag(g, sd, slot) + " completes suspension<BR><BR>");
+  if (--p.Suspended != 0) return;
+  AppendTransaction(g.s, Tag(g, sd, slot) + " completes suspension<BR><BR>");
+  ClearLines(g, sd);
 }
 
 void SkaterStep(Game& g, int sd, int slot) {
@@ -69,6 +76,7 @@ void Suspend(Game& g, int sd, int slot) {
   Player& p = g.player(sd, slot);
   p.Suspended = static_cast<u8>(days);
   p.Status = 100;
+  ClearLines(g, sd);
   g.AddNote(g.PlayerName(sd, slot) + " receives " + NumText(days) + " game suspension<BR>");
   AppendTransaction(g.s, Tag(g, sd, slot) + " suspended " + NumText(days) + " games<BR><BR>");
 }

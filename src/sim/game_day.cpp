@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "league/league_files.h"
+#include "league/roster_check.h"
 #include "reports/auto_output.h"
 #include "season/playoff_series.h"
 #include "season/schedule_file.h"
@@ -87,6 +88,7 @@ void Games::PlayRecord(std::vector<ScheduleRecord>& games, std::size_t index) {
   r.Overtime = static_cast<u8>(game.OvertimeCount);
   RecordFile(s_.swap(swp::Schedule), ScheduleRecord::kSize).putRecord(index + 1, r);
   ++gamesPlayed;
+  if (onGame) onGame(game, static_cast<int>(index + 1));
 }
 
 bool Games::PlayGameDay() {
@@ -170,8 +172,16 @@ bool Games::RefuseWithoutSchedule() {
   return true;
 }
 
-bool Games::MultipleGames() {
+// Every run of game days starts with the roster check: a team that cannot
+// dress a side would stop the run half way, so nothing is played. A season
+// that is over lets the day tell so.
+bool Games::MayPlay() {
   if (RefuseWithoutSchedule()) return false;
+  return IsSeasonOver || RosterCheck(s_, true);
+}
+
+bool Games::MultipleGames() {
+  if (!MayPlay()) return false;
   s_.Dirty = true;
   return PlayGameDay();
 }
@@ -216,7 +226,7 @@ bool Games::RunDays(int days) {
 
 bool Games::BulkGameButton(int days) {
   if (days < 1) return false;
-  if (RefuseWithoutSchedule()) return false;
+  if (!MayPlay()) return false;
   const std::string question = "Are you sure you want to run " + NumText(days) +
                                "\n\nThis could take up to an hour.\n\nTo interrupt while running multiple game days, "
                                "press any key. days of games?";
@@ -225,7 +235,7 @@ bool Games::BulkGameButton(int days) {
 }
 
 bool Games::Command5() {
-  if (RefuseWithoutSchedule()) return false;
+  if (!MayPlay()) return false;
   const std::string question =
       "Are you sure you want to run a Full Season?\n\nThis could take up to an hour.\n\nTo interrupt while running "
       "the Full Season, press any key.";
@@ -239,6 +249,7 @@ bool Games::PlayToEnd() {
     s_.ui.tell("Season is over", "Season Over");
     return false;
   }
+  if (!MayPlay()) return false;
   return RunDays(0);
 }
 

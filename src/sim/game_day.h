@@ -5,6 +5,7 @@
 // and the pages may be published.
 #include <array>
 #include <chrono>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,8 @@
 #include "season/playoffs.h"
 
 namespace kvl {
+
+class Game;
 
 class Games {
  public:
@@ -48,9 +51,13 @@ class Games {
   // What this console has played, for the front ends' summaries.
   int gamesPlayed = 0, daysPlayed = 0;
   int champion = -1;  // once the final is decided
+  // Called after each game of the schedule with its number, for a report
+  // that follows the season game by game.
+  std::function<void(Game&, int)> onGame;
 
  private:
   bool RefuseWithoutSchedule();
+  bool MayPlay();
   void PlayRecord(std::vector<ScheduleRecord>& games, std::size_t index);
   void RestTeams(const std::array<bool, kMaxTeams>& played);
   bool EndPlayoffRound();

@@ -96,14 +96,10 @@ void Game::PrepareSide(int sd) {
   g.Goalie = t.Lines.at(kGoalieRow, 0);
   if (g.Goalie >= kGameSlots) Stop("no starting goalie in the lines of " + t.Name.str());
   FloorGoalie(sd, g.Goalie);
-  Player& goalie = player(sd, g.Goalie);
-  if (goalie.GP > 10) {
-    // A goalie who has played more of the season than his endurance allows starts tired.
-    double a = (g.Scaled[kEnd][g.Goalie] / 10.0) * 0.9;
-    int b = t.W[0] + t.L[0] + t.T[0];
-    double c = goalie.Plus / 60.0;
-    if (a * b > c) goalie.Condition = static_cast<u8>(Rnd(goalie.Condition) - 1);
-  }
+  // No tired-goalie draw before the game: its test contradicts itself, and
+  // either reading of it collapses a season's scoring (played in one run, or
+  // day by day). A goalie's workload is the after-game tire draw, rest and
+  // the backup's starts in runs of game days.
   g.dressedCount = 0;
   for (int slot = 0; slot < kGameSlots; ++slot) {
     Player& p = player(sd, slot);

@@ -11,7 +11,7 @@ namespace kvl {
 // A full club by position (C, LW, RW, D, G): the pro roster and the farm.
 struct ClubShape {
   std::array<int, 5> pro{4, 4, 4, 7, 3};
-  std::array<int, 5> farm{1, 1, 1, 2, 1};
+  std::array<int, 5> farm{3, 3, 3, 4, 1};
 };
 
 struct FillResult {

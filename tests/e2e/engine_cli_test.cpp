@@ -40,6 +40,19 @@ TEST(EngineCommands, PlayoffsNoConferenceCanFillAreRefused) {
   lg.expectTranscript(__FILE__, "engine_playoffs_refused.txt");
 }
 
+// A team that cannot dress a side (here its goalies are worn) refuses every run
+// of game days before its first game, naming the team and what it lacks:
+// nothing is played, and no save is asked. The season profile says so too.
+TEST(EngineCommands, InvalidRostersRefuseARunBeforeItsFirstGame) {
+  CliLeague lg(AlignedLeague({{2, 2}, {2, 2}}), "test", {"--seed", "3"});
+  lg.kvl({"--yes", "make-schedule"});
+  for (int g : {19, 20, 21}) EditRecord<Player>(lg.path + ".ros", 3 * kRosterSlots + g + 1, [](Player& p) { p.Condition = 90; });
+  const Bytes schedule = ReadFileBytes(lg.path + ".scx");
+  lg.kvlEach({{"play-games"}, {"--yes", "play-games", "--season"}, {"sim-profile", "--season"}});
+  EXPECT_EQ(ReadFileBytes(lg.path + ".scx"), schedule);
+  lg.expectTranscript(__FILE__, "engine_rosters_refused.txt");
+}
+
 // An old schedule holding no game is left alone (no save asked), one that
 // cannot be read is told, and one beside a current schedule gives way to it.
 // The review shows the game days as the driver will play them, with the scores

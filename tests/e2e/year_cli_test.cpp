@@ -39,15 +39,19 @@ void ExpectSeasonAgrees(const std::string& path, const fs::path& transfer) {
               (std::array{r.w, r.l, r.t, r.gf, r.ga}))
         << "team " << t;
     loadteam(h.state, t, 0);
-    int skaterGoals = 0, goalsAgainst = 0, goalieDecisions = 0;
+    int skaterGoals = 0, goalsAgainst = 0, goalieDecisions = 0, skaterGames = 0;
     for (int slot = 0; slot < kRosterSlots; ++slot) {
       const Player& p = h.state.player(0, slot);
       if (p.Pos == kGoalie)
         goalsAgainst += p.PIM, goalieDecisions += p.SH + p.GW + p.GT;
       else
-        skaterGoals += p.G;
+        skaterGoals += p.G, skaterGames += p.GP;
     }
-    EXPECT_EQ((std::array{skaterGoals, goalsAgainst, goalieDecisions}), (std::array{r.gf, r.ga, r.w + r.l + r.t}))
+    // Every dressed skater counts a game: eighteen a game, none short after a
+    // suspension or an injury.
+    const int games = r.w + r.l + r.t;
+    EXPECT_EQ((std::array{skaterGoals, goalsAgainst, goalieDecisions, skaterGames}),
+              (std::array{r.gf, r.ga, games, 18 * games}))
         << "team " << t;
   }
 }
@@ -55,7 +59,14 @@ void ExpectSeasonAgrees(const std::string& path, const fs::path& transfer) {
 TEST(YearCommands, ASeasonThePlayoffsToAChampionANewSeasonAndASecondYear) {
   LeaguePlan plan = AlignedLeague({{2, 2}, {2, 2}});
   plan.header.PlayoffSize = 1;  // four a conference
+  // Minor leaguers to call up when injuries and suspensions thin the roster.
+  for (std::size_t t = 0; t < plan.rosters.size(); ++t)
+    for (int pos : {kCentre, kLeftWing, kRightWing, kDefence, kDefence})
+      plan.rosters[t].push_back(MakePlayer("Depth " + std::to_string(t) + std::to_string(pos), pos, 55, 0));
   CliLeague lg(plan, "year", {"--seed", "4"});
+  // The season profile plays the suggested schedule on a copy, the same on two threads.
+  const ProgramRun profile = lg.kvl({"sim-profile", "--season"});
+  EXPECT_EQ(lg.kvl({"sim-profile", "--season", "--jobs", "2"}).out, profile.out);
   const fs::path folder = lg.dir.path() / "league";
   lg.kvlEach({{"--yes", "make-schedule"},
               {"--yes", "start-playoffs"},  // not before the season is over

@@ -8,6 +8,7 @@
 
 #include "league/league_files.h"
 #include "sim/farm_game.h"
+#include "team/roster_rules.h"
 #include "support/golden.h"
 #include "support/sim_league.h"
 
@@ -148,20 +149,59 @@ TEST(SuspensionDays, OneGameUnlessTheInjuryOrTheFightWasBad) {
   }
 }
 
-// An ejected player is suspended after the game: the games on his record, a note
-// on the box score and a line in the league's log.
-TEST(Suspension, TheGamesAreKeptNotedAndLogged) {
-  GameFixture f(SimLeague(4));
-  f.h.state.league.OptSuspensions = kTrue;
-  f.side(0).Status[kFirstD] = kEjectedSuspend;
-  const BoxScoreInfo info{.kind = GameKind::RegularSeason, .gameNumber = 1, .farmLines = {}};
-  const std::string page = ReadAll(FinishGame(f.game, info));
-  const Player& p = f.h.state.player(0, kFirstD);
-  const std::string days = std::to_string(p.Suspended), name = f.game.PlayerName(0, kFirstD);
-  EXPECT_TRUE(p.Suspended >= 1 && p.Suspended <= 5 && p.Status == 100) << int(p.Suspended);
-  EXPECT_NE(page.find(name + " receives " + days + " game suspension<BR>"), std::string::npos);
-  EXPECT_NE(ReadAll(f.h.state.swap(swp::Transactions)).find(name + " (T00) suspended " + days + " games"),
-            std::string::npos);
+// A suspension clears the team's lines at its start and its end, as an injury
+// does, so the next game dresses a replacement and then the player again; a
+// for-life mark is never counted down.
+TEST(Suspension, TheNextGameDressesAReplacementAndThenThePlayerAgain) {
+  const int scratchD = kFirstD + 6;
+  struct Row {
+    int slot, before;
+    bool ejected;
+    int low, high;
+    bool linesKept, dressedNext;
+    const char* logged;
+    const char* why;
+  } rows[] = {
+      {kFirstD, 0, true, 1, 5, false, false, " suspended ", "ejected: out, a replacement dressed"},
+      {scratchD, 2, false, 1, 1, true, false, "", "one game served of two: the lines stand"},
+      {scratchD, 1, false, 0, 0, false, true, " completes suspension", "served: back in the pool, and the best D"},
+      {scratchD, kHoldOut, false, kHoldOut, kHoldOut, true, false, "", "a hold-out is not counted down"},
+  };
+  for (const Row& r : rows) {
+    GameFixture f(SimLeague(4));
+    LeagueState& s = f.h.state;
+    s.league.OptSuspensions = kTrue;
+    Player& p = s.player(0, r.slot);
+    p.Suspended = static_cast<u8>(r.before);
+    if (r.dressedNext)
+      for (int i = 0; i < kRatingCount - 1; ++i) p.rating(i) = 95;
+    if (r.ejected) f.side(0).Status[r.slot] = kEjectedSuspend;
+    const std::string name = f.game.PlayerName(0, r.slot);
+    const std::string page = ReadAll(FinishGame(f.game, {.kind = GameKind::RegularSeason, .gameNumber = 1, .farmLines = {}}));
+    EXPECT_TRUE(p.Suspended >= r.low && p.Suspended <= r.high) << r.why << ": " << int(p.Suspended);
+    EXPECT_EQ(bool(s.team(0).LinesOK), r.linesKept) << r.why;
+    const std::string log = ReadAll(s.swap(swp::Transactions));
+    if (*r.logged) {
+      EXPECT_NE(log.find(name + " (T00)" + r.logged), std::string::npos) << r.why;
+    }
+    if (r.ejected) {
+      EXPECT_EQ(p.Status, 100);
+      EXPECT_NE(page.find(name + " receives " + std::to_string(p.Suspended) + " game suspension<BR>"),
+                std::string::npos);
+    }
+    Game next(s);
+    next.SetupGame(0, 1);
+    const GameSide& side = next.sideOf(0);
+    int skaters = 0;
+    bool dressed = false;
+    for (int i = 0; i < side.dressedCount; ++i) {
+      const u8 slot = side.dressed[static_cast<std::size_t>(i)];
+      skaters += s.player(0, slot).Pos != kGoalie;
+      dressed = dressed || slot == r.slot;
+    }
+    EXPECT_EQ(skaters, 18) << r.why;
+    EXPECT_EQ(dressed, r.dressedNext) << r.why;
+  }
 }
 
 TEST(FarmGame, AClubWithoutAGoalieStillPlays) {
@@ -177,6 +217,51 @@ TEST(FarmGame, AClubWithoutAGoalieStillPlays) {
   EXPECT_EQ(a.W + a.L + a.T, 1);
   EXPECT_EQ(a.GF, h.GA);
   EXPECT_EQ(a.W, h.L);
+}
+
+// The farm game to the letter: a goal weighs two in its scorer's total (four,
+// one time in ten), the goalie earns a star point for each goal under three he
+// lets in, and only with Farm Streak/Slump on does a farm player's condition move.
+TEST(FarmGame, GoalsWeighTwoGoaliesEarnStarsAndStreaksMoveCondition) {
+  for (bool streaks : {false, true}) {
+    LeaguePlan plan = SimLeague(4);
+    for (std::size_t t : {0u, 1u}) {
+      for (int k = 0; k < 18; ++k) plan.rosters[t].push_back(MakePlayer("Farm " + std::to_string(k), k % 4, 60, 0));
+      plan.rosters[t].push_back(MakePlayer("Farm G", kGoalie, 60, 0));
+      for (Player& p : plan.rosters[t]) p.Condition = 95;
+    }
+    GameFixture f(plan);
+    LeagueState& s = f.h.state;
+    s.league.OptFarmStreaks = streaks;
+    // Sums over a side's farm players: skaters' FarmStatD, goalies' StarPoints, everyone's condition.
+    auto sums = [&](int sd) {
+      std::array<int, 3> out{};
+      for (int slot = 1; slot < kRosterSlots; ++slot) {
+        const Player& p = s.player(sd, slot);
+        if (p.empty() || p.Status != 0) continue;
+        out[p.Pos == kGoalie ? 1 : 0] += p.Pos == kGoalie ? p.StarPoints : p.FarmStatD;
+        out[2] += p.Condition;
+      }
+      return out;
+    };
+    int doubled = 0, moved = 0;
+    for (int game = 0; game < 40; ++game) {
+      const std::array<std::array<int, 3>, 2> before{sums(0), sums(1)};
+      const std::array<int, 2> gf{s.Farm[0].GF, s.Farm[1].GF};
+      PlayFarmGame(s, 0, 1);
+      for (int sd = 0; sd < 2; ++sd) {
+        const int goals = s.Farm[sd].GF - gf[sd], against = s.Farm[1 - sd].GF - gf[1 - sd];
+        const std::array<int, 3> now = sums(sd);
+        const int weight = now[0] - before[sd][0];
+        EXPECT_TRUE(weight % 2 == 0 && weight >= 2 * goals && weight <= 4 * goals) << weight << " for " << goals;
+        doubled += (weight - 2 * goals) / 2;
+        EXPECT_EQ(now[1] - before[sd][1], std::max(0, 3 - against));
+        moved += now[2] != before[sd][2];
+      }
+    }
+    EXPECT_GT(doubled, 0);
+    EXPECT_EQ(moved > 0, streaks);
+  }
 }
 
 }  // namespace

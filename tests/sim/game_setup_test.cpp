@@ -52,19 +52,21 @@ TEST(SetupGame, GoalieSpeedFloorIsCrossedWithPuckControl) {
   EXPECT_THAT(Scaled(f, 0, kFirstG, {kSpd, kPcc}), Pointwise(FloatEq(), {7.0f, 8.0f}));
 }
 
-TEST(SetupGame, OverworkedGoalieStartsTired) {
+// However much of the season a goalie has played, he starts at his condition:
+// no tired-goalie draw before the game.
+TEST(SetupGame, AnOverworkedGoalieIsNotDrawnDown) {
   LeaguePlan plan = SimLeague(4);
   for (std::size_t t : {0u, 1u}) {
     plan.teams[t].W[0] = 30;
     plan.rosters[t][kFirstG].Plus = 60 * 12;  // twelve minutes played all season
+    plan.rosters[t][kFirstG].GP = 31;
+    plan.rosters[t][kFirstG].Condition = static_cast<u8>(96 - t);
   }
-  plan.rosters[0][kFirstG].GP = 11;
-  plan.rosters[1][kFirstG].GP = 10;  // not above 10: left alone
   GameFixture f(plan);
-  int drawn = f.h.state.player(0, kFirstG).Condition;
-  EXPECT_LT(drawn, 100);
-  EXPECT_FLOAT_EQ(f.side(0).Energy[kFirstG], drawn == 0 ? 100.0f : static_cast<float>(drawn));
-  EXPECT_EQ(f.h.state.player(1, kFirstG).Condition, 100);
+  for (int sd = 0; sd < 2; ++sd) {
+    EXPECT_EQ(f.h.state.player(sd, kFirstG).Condition, 96 - sd);
+    EXPECT_FLOAT_EQ(f.side(sd).Energy[kFirstG], static_cast<float>(96 - sd));
+  }
 }
 
 TEST(SetupGame, CheckingClassFollowsDisciplineThenIntelligenceAndStrength) {
