@@ -28,14 +28,16 @@ void RegisterNew(CLI::App& app, Session& s) {
     if (!o->database.empty()) choice.database = fs::absolute(o->database);
     if (!o->name.empty()) choice.name = Utf8ToCp1252(o->name);
     if (!CreateLeague(s.state, choice)) throw Refused("no league made");
-    if (!o->saveAs.empty()) MainConsole(s.state).SaveAs(fs::absolute(StripLeagueExtension(o->saveAs) + ".lge"));
+    if (!o->saveAs.empty() && !MainConsole(s.state).SaveAs(NewLeagueFile(s, o->saveAs))) throw Refused("not saved");
     s.ui.print("League \"" + s.state.league.LeagueName.str() +
                "\" created with no teams. Add teams with the align commands, then fill them with "
                "assign-unused --auto.\n");
   });
   cmd->add_option("--database", o->database, "the player database (.drs) instead of the file question");
   cmd->add_option("--name", o->name, "the league's name instead of the prompt (25 characters at most)");
-  cmd->add_option("--save-as", o->saveAs, "save the new league at once under this file (.lge added when missing)");
+  cmd->add_option("--save-as", o->saveAs,
+                  "save the new league at once under this file (.lge added when missing; a name without a folder "
+                  "goes to the home folder)");
 }
 
 void RegisterMakeDefaultData(CLI::App& app, Session& s) {

@@ -8,9 +8,13 @@
 namespace kvl {
 
 namespace {
-fs::path AsLeagueFile(std::string p) {
+// A name without a folder is looked for here, then in the home folder, where
+// saves under such a name go.
+fs::path AsLeagueFile(const Session& s, std::string p) {
   if (StripLeagueExtension(p) == p) p += ".lge";
-  return fs::absolute(p);
+  const fs::path given(p);
+  if (!given.has_parent_path() && !fs::exists(given) && fs::exists(s.home / given)) return s.home / given;
+  return fs::absolute(given);
 }
 }  // namespace
 
@@ -20,7 +24,7 @@ void RegisterLeagueCommands(CLI::App& app, Session& s) {
 
   auto path = std::make_shared<std::string>();
   AddCommand(app, s, "load", "Load a league (asks to save unsaved work first)", false,
-             [&s, path] { MainConsole(s.state).LoadLeague(AsLeagueFile(*path)); })
+             [&s, path] { MainConsole(s.state).LoadLeague(AsLeagueFile(s, *path)); })
       ->add_option("PATH", *path, "the league's .lge file, or its path without extension")
       ->required();
 
@@ -28,8 +32,13 @@ void RegisterLeagueCommands(CLI::App& app, Session& s) {
 
   auto newPath = std::make_shared<std::string>();
   AddCommand(app, s, "save-as", "Save the open league under a new name", true,
-             [&s, newPath] { MainConsole(s.state).SaveAs(AsLeagueFile(*newPath)); })
-      ->add_option("PATH", *newPath, "the new league file (.lge added when missing)")
+             [&s, newPath] {
+               if (!MainConsole(s.state).SaveAs(NewLeagueFile(s, *newPath))) throw Refused("not saved");
+               s.ui.print("Saved as " + s.state.LeaguePath + ".lge; the next command opens it.\n");
+             })
+      ->add_option("PATH", *newPath,
+                   "the new league file (.lge added when missing; a name without a folder goes to the home "
+                   "folder; an existing league is written over only with --overwrite)")
       ->required();
 
   auto name = std::make_shared<std::string>();

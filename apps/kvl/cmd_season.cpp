@@ -44,11 +44,12 @@ void RegisterNewSeason(CLI::App& app, Session& s) {
       [&s, saveAs] {
         RequireOffSeason(s, "New Season", "A new season starts");
         std::optional<fs::path> to;
-        if (!saveAs->empty()) to = fs::path(*saveAs);
+        if (!saveAs->empty()) to = NewLeagueFile(s, *saveAs);
         if (!NewSeason(s.state, to)) throw Refused("new season");
         if (!s.state.LeaguePath.empty()) s.ui.print("New season saved as " + s.state.LeaguePath + ".lge\n");
       });
-  cmd->add_option("--save-as", *saveAs, "the new season's league file (else asked)");
+  cmd->add_option("--save-as", *saveAs,
+                  "the new season's league file (else asked; a name without a folder goes to the home folder)");
 }
 
 }  // namespace

@@ -39,17 +39,27 @@ struct PlayArgs {
 
 void PlayGames(Session& s, const PlayArgs& a) {
   Games games(s.state);
-  if (!a.saveAs.empty()) games.playoffEnd.saveAs = fs::path(a.saveAs);
+  if (!a.saveAs.empty()) games.playoffEnd.saveAs = NewLeagueFile(s, a.saveAs);
   if (a.restDay) return games.cmdHelp();
+  // Named before the run: after the final the league is saved under a new name.
+  const fs::path today = TransferFile(s.state, "TodayGames.html");
+  const bool playoffs = s.state.league.InPlayoffs;
   bool ran = a.season ? games.Command5() : a.days ? games.BulkGameButton(*a.days) : games.MultipleGames();
   if (!ran) throw Refused("no games");
   const League& l = s.state.league;
-  std::string text = fmt::format("Played {} games in {} game days; {} of {} games of the schedule are played.\n",
-                                 games.gamesPlayed, games.daysPlayed, l.GamesPlayed, l.LeagueGames);
+  std::string text = fmt::format("Played {} games in {} game days", games.gamesPlayed, games.daysPlayed);
+  if (!playoffs)
+    text += fmt::format("; {} of {} games of the schedule are played.\n", l.GamesPlayed, l.LeagueGames);
+  else if (l.InPlayoffs)
+    text += fmt::format(" of the playoffs; round {} is under way.\n", s.state.Playoff.PlayoffRound);
+  else
+    text += " of the playoffs.\n";
   if (games.StopRequested) text += "Stopped by the interrupt between game days.\n";
   if (games.champion >= 0) text += s.state.team(games.champion).Name.str() + " win the playoffs.\n";
   else if (games.IsSeasonOver) text += "The season is over.\n";
-  text += fmt::format("Box scores and the daily page: {}\n", TransferFile(s.state, "TodayGames.html").string());
+  text += fmt::format("Box scores and the daily page: {}\n", today.string());
+  if (games.champion >= 0 && !s.state.LeaguePath.empty())
+    text += "The league is saved as " + s.state.LeaguePath + ".lge; the next command opens it.\n";
   s.ui.print(text);
 }
 

@@ -18,7 +18,7 @@ struct GlobalOptions {
   std::string home;
   std::string league;
   std::optional<std::uint64_t> seed;
-  bool yes = false, no = false;
+  bool yes = false, no = false, overwrite = false;
   std::string answers;
 };
 
@@ -36,12 +36,15 @@ void AddGlobalOptions(CLI::App& app, GlobalOptions& g) {
   app.add_option("--seed", g.seed, "make every random draw of the run repeatable");
   auto* yes = app.add_flag("--yes", g.yes, "answer yes to every question");
   app.add_flag("--no", g.no, "answer no to every question")->excludes(yes);
+  app.add_flag("--overwrite", g.overwrite,
+               "answer yes to \"File Exists! Overwrite?\", which --yes does not answer");
   app.add_option("--answers", g.answers, "a file of answers, one a line, to questions, prompts and file choices")
       ->check(CLI::ExistingFile);
 }
 
 void ApplyAnswers(Session& s, const GlobalOptions& g) {
   if (g.yes) s.ui.answerAll(Answer::Yes);
+  if (g.overwrite) s.ui.allowOverwrite();
   if (g.no) s.ui.answerAll(Answer::No);
   if (!g.answers.empty()) {
     std::ifstream in(g.answers);

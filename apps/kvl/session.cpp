@@ -5,6 +5,8 @@
 #include <charconv>
 #include <iostream>
 
+#include "console/league_view.h"
+#include "league/league_files.h"
 #include "util/error.h"
 
 namespace kvl {
@@ -45,6 +47,21 @@ void StartSession(Session& s, HomeLock& lock) {
       throw Refused("second copy");
     }
     StartUp(s.state, s.leagueArg);
+    // On a terminal the first line names the league the command works on.
+    if (s.ui.interactive() && s.state.hasLeague())
+      s.ui.print(fmt::format("League {}.lge ({})\n", ShowText(s.state.LeaguePath), LeagueStateName(s.state.league)));
+}
+
+fs::path NewLeagueFile(Session& s, const std::string& arg) {
+  fs::path p = StripLeagueExtension(arg) + ".lge";
+  p = p.has_parent_path() ? fs::absolute(p) : s.home / p;
+  if (fs::exists(p) && s.ui.refusesOverwrite()) {
+    s.ui.tell(p.string() + " exists: a league is written over only with --overwrite (--yes does not answer "
+              "\"" + kOverwriteQuestion + "\"). Nothing was written.",
+              "Save League");
+    throw Refused("overwrite");
+  }
+  return p;
 }
 
 namespace {
@@ -84,11 +101,11 @@ int RunGuarded(Session& s, const std::function<void()>& work) {
   } catch (const Refused&) {
     return kExitRefused;
   } catch (const FatalStop& e) {
-    std::cerr << "kvl: " << e.what() << "\n";
+    std::cerr << "kvl: " << ShowText(e.what()) << "\n";
     return kExitFailure;
   } catch (const KvlError& e) {
     s.ui.progressDone();
-    std::cerr << "kvl: " << e.what() << "\n";
+    std::cerr << "kvl: " << ShowText(e.what()) << "\n";
     return kExitFailure;
   } catch (const std::exception& e) {
     s.ui.progressDone();

@@ -68,6 +68,12 @@ inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterPlayerCommands(app, s);
 }
 
+// A league file named for a save under a new name: ".lge" added when missing,
+// and a name without a folder put in the home folder. An existing one that
+// --yes or --no alone would be asked about is refused (status 1) before the
+// command changes anything.
+fs::path NewLeagueFile(Session& s, const std::string& arg);
+
 // Takes the home folder's lock (refusing a second copy) and starts up.
 void StartSession(Session& s, HomeLock& lock);
 

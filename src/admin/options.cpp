@@ -35,6 +35,15 @@ T Bounded(const std::string& text, T old) {
   return static_cast<T>(WholeIn(text, std::numeric_limits<T>::min(), std::numeric_limits<T>::max()).value_or(old));
 }
 
+// Digits with an optional sign, and nothing else.
+std::optional<long> StrictWhole(const std::string& value) {
+  std::size_t i = !value.empty() && value[0] == '-' ? 1 : 0;
+  if (i == value.size() || value.size() > 9) return std::nullopt;
+  for (std::size_t k = i; k < value.size(); ++k)
+    if (!std::isdigit(static_cast<unsigned char>(value[k]))) return std::nullopt;
+  return std::stol(value);
+}
+
 std::optional<bool> ParseTick(const std::string& value) {
   std::string v = Lower(value);
   if (v == "on" || v == "yes" || v == "true" || v == "1" || v == "-1") return true;
@@ -114,6 +123,7 @@ void Options::set(const std::string& name, const std::string& value) {
   const OptionDef* d = FindDef(name);
   if (!d) Refuse(fmt::format("There is no option \"{}\"; the command options lists them all.", name));
   if (d->kind == OptionKind::Text) {
+    checkText(*d, value);
     d->text(c_) = value;
     dirty_ = true;
     if (d->name == "DraftRounds") txtDraftRounds_LostFocus();
@@ -126,12 +136,33 @@ void Options::set(const std::string& name, const std::string& value) {
     dirty_ = true;
     return;
   }
-  double v = Val(value);
-  if (value.empty() || v != std::floor(v) || v < d->low || v > d->high)
-    Refuse(fmt::format("{} takes a whole number from {} to {}, not \"{}\".", d->name, d->low, d->high, value));
-  if (d->name == "PlayoffTree") return chooseTree(static_cast<int>(v));
-  d->choice(c_) = static_cast<int>(v);
+  std::optional<long> v = StrictWhole(value);
+  if (!v || *v < d->low || *v > d->high) {
+    std::string choices;
+    for (int i = d->low; i <= d->high; ++i) choices += (i > d->low ? ", " : "") + ChoiceText(*d, i);
+    const bool named = ChoiceText(*d, d->low) != NumText(d->low);
+    Refuse(named ? fmt::format("{} takes one of {}, not \"{}\".", d->name, choices, value)
+                 : fmt::format("{} takes a whole number from {} to {}, not \"{}\".", d->name, d->low, d->high, value));
+  }
+  if (d->name == "PlayoffTree") {
+    chooseTree(static_cast<int>(*v));
+    s_.ui.tell(fmt::format("{} selects {}.", kTrees[std::size_t(*v)], kPlayoffSizes[std::size_t(c_.Option4)]), kTitle);
+    return;
+  }
+  d->choice(c_) = static_cast<int>(*v);
   dirty_ = true;
+}
+
+// A number box takes a whole number in its field's range, and a stored folder
+// its 20 characters: anything else is refused rather than stored as 0 or cut.
+void Options::checkText(const OptionDef& d, const std::string& value) const {
+  if (d.high > 0) {
+    std::optional<long> v = StrictWhole(value);
+    if (!v || *v < d.low || *v > d.high)
+      Refuse(fmt::format("{} takes a whole number from {} to {}, not \"{}\".", d.name, d.low, d.high, value));
+  } else if (d.tab == "Files" && d.name != "LinesDirectory" && value.size() > kStoredPathLength) {
+    Refuse(fmt::format("{} holds {} characters, and \"{}\" has {}.", d.name, kStoredPathLength, value, value.size()));
+  }
 }
 
 void Options::chooseTree(int which) {

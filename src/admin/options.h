@@ -35,7 +35,7 @@ struct OptionDef {
   std::string tab;
   std::string caption;
   OptionKind kind = OptionKind::Text;
-  int low = 0, high = 0;  // a choice's range
+  int low = 0, high = 0;  // a choice's or a number's range; 0 to 0 for a text
   std::function<std::string&(OptionControls&)> text;
   std::function<bool&(OptionControls&)> tick;
   std::function<int&(OptionControls&)> choice;
@@ -43,6 +43,8 @@ struct OptionDef {
 
 // Every option of the form, tab by tab.
 const std::vector<OptionDef>& OptionDefs();
+// The folders stored in the header hold this many characters.
+constexpr std::size_t kStoredPathLength = 20;
 
 // The highest number of draft rounds `rounds` can stand at with `teams` teams.
 int DraftRoundsFor(double rounds, int teams);
@@ -74,6 +76,7 @@ class Options {
   void ApplyNumbers();
   void ApplySimulator();
   [[noreturn]] void Refuse(const std::string& text) const;
+  void checkText(const OptionDef& d, const std::string& value) const;
 
   LeagueState& s_;
   OptionControls c_;

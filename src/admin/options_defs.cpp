@@ -28,6 +28,15 @@ OptionDef Text(const char* name, const char* tab, const char* caption, std::stri
   return d;
 }
 
+// A number typed in a box, held to the range its field stores.
+OptionDef Number(const char* name, const char* tab, const char* caption, std::string OptionControls::*field,
+                 int low, int high) {
+  OptionDef d = Text(name, tab, caption, field);
+  d.low = low;
+  d.high = high;
+  return d;
+}
+
 OptionDef Path(const char* name, const char* caption, std::size_t i) {
   OptionDef d = Base(name, "Files", caption, OptionKind::Text);
   d.text = [i](OptionControls& c) -> std::string& { return c.Text1[i]; };
@@ -59,7 +68,7 @@ OptionDef Slider(const char* name, const char* caption, std::size_t i) {
 
 std::vector<OptionDef> MakeDefs() {
   using C = OptionControls;
-  std::vector<OptionDef> d{Text("CurrentYear", "General", "Current Year", &C::txtYear)};
+  std::vector<OptionDef> d{Number("CurrentYear", "General", "Current Year", &C::txtYear, 0, 32767)};
   for (std::size_t i = 1; i <= kPages.size(); ++i) {
     auto page = Tick("", "Output", kPages[i - 1], [i](C& c) -> bool& { return c.Check[i]; });
     page.name = fmt::format("OutputPage{}", i);
@@ -87,12 +96,12 @@ std::vector<OptionDef> MakeDefs() {
                                   {"InjuriesLevel", "Injuries", 4}})
     d.push_back(Slider(name, caption, static_cast<std::size_t>(i)));
   d.push_back(Choice("PointSystem", "Simulator", "Point System", 0, 3, [](C& c) -> int& { return c.optPointSystem; }));
-  d.push_back(Text("TradeDeadline", "Transactions", "Trade Deadline", &C::txtDeadline));
-  d.push_back(Text("UnresAge", "Transactions", "Unrestricted Age", &C::txtUnresAge));
-  d.push_back(Text("TwoWayAfter", "Transactions", "2-way Con After", &C::txt2Way));
-  d.push_back(Text("AgeExempt", "Transactions", "Age Exemption", &C::txtAgeExempt));
-  d.push_back(Text("MinGP", "Transactions", "Minimum GP", &C::txtMinGP));
-  d.push_back(Text("DraftRounds", "Transactions", "Draft Rounds", &C::txtDraftRounds));
+  d.push_back(Number("TradeDeadline", "Transactions", "Trade Deadline", &C::txtDeadline, 0, 255));
+  d.push_back(Number("UnresAge", "Transactions", "Unrestricted Age", &C::txtUnresAge, 0, 255));
+  d.push_back(Number("TwoWayAfter", "Transactions", "2-way Con After", &C::txt2Way, 0, 255));
+  d.push_back(Number("AgeExempt", "Transactions", "Age Exemption", &C::txtAgeExempt, 0, 255));
+  d.push_back(Number("MinGP", "Transactions", "Minimum GP", &C::txtMinGP, 0, 255));
+  d.push_back(Number("DraftRounds", "Transactions", "Draft Rounds", &C::txtDraftRounds, 1, 9));
   d.push_back(Tick("OptLottery", "Transactions", "Lottery", [](C& c) -> bool& { return c.chkLottery; }));
   return d;
 }

@@ -28,9 +28,9 @@ void MainConsole::SaveLeague() {
   s_.ui.tell(s_.LeaguePath + " saved", "Save League");
 }
 
-void MainConsole::SaveAs(std::optional<fs::path> chosen) {
+bool MainConsole::SaveAs(std::optional<fs::path> chosen) {
   if (!s_.hasLeague()) throw Refused("no league is open");
-  SaveLeagueAs(s_, "", chosen);
+  return SaveLeagueAs(s_, "", chosen);
 }
 
 void MainConsole::RenameLeague(std::optional<std::string> name) {

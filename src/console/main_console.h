@@ -16,7 +16,7 @@ class MainConsole {
   void LoadLeague(std::optional<fs::path> chosen = std::nullopt);
   // Save: SaveLeagueAs for an unnamed league, else SaveLg; tells the path.
   void SaveLeague();
-  void SaveAs(std::optional<fs::path> chosen = std::nullopt);
+  bool SaveAs(std::optional<fs::path> chosen = std::nullopt);
   // Clicking the league name: prompts for a new one unless `name` is given.
   void RenameLeague(std::optional<std::string> name = std::nullopt);
   // Closing the console: offers to keep unsaved changes.

@@ -263,7 +263,7 @@ bool SaveLeagueAs(LeagueState& s, const std::string& defaultName, std::optional<
   if (!chosen) return false;
   std::string name = StripLeagueExtension(chosen->string());
   std::optional<FileLock> lock = TakeLeagueLock(s, name);  // before asking: a league open elsewhere is no choice
-  if (fs::exists(*chosen) && s.ui.ask("File Exists! Overwrite?", "Save League", Buttons::YesNo) != Answer::Yes)
+  if (fs::exists(*chosen) && s.ui.ask(kOverwriteQuestion, "Save League", Buttons::YesNo) != Answer::Yes)
     return false;
   std::string oldPath = s.LeaguePath;
   s.LeaguePath = name;
@@ -275,6 +275,7 @@ bool SaveLeagueAs(LeagueState& s, const std::string& defaultName, std::optional<
   }
   if (lock) s.leagueLock = std::move(*lock);
   s.LeagueShort = ExtractLast(s.LeaguePath);
+  WriteKvlDef(s);  // the league left open is the one the next start opens
   return true;
 }
 

@@ -43,7 +43,8 @@ std::optional<double> FreeAgents::AskSalary(const std::string& shortName, std::o
   for (;;) {
     std::optional<std::string> a = s_.ui.prompt("New salary for " + shortName, kSignTitle, "");
     if (!a || a->empty()) return std::nullopt;
-    if (std::optional<double> v = WholeIn(*a, 0, kMaxSalary - 1)) return v;
+    if (std::optional<double> v = DollarsIn(*a, kMaxSalary - 1)) return v;
+    s_.ui.tell("\"" + *a + "\" is not a salary: whole dollars from $0 to $99,999,999.", kSignTitle);
   }
 }
 

@@ -122,6 +122,12 @@ bool Waivers::TakePlayer(WaiverRecord& w) {
 
 bool Waivers::cmdClaim(std::size_t record) {
   WaiverRecord w = ReadWaivers(s_).at(record - 1);
+  // A claim of one's own player would move him onto the roster he is on.
+  if (w.Holder == team_ || w.Owner == team_) {
+    s_.ui.tell(Condense(w.Name.str()) + " is " + s_.team(team_).Name.str() + "'s own player: recall him instead of "
+               "claiming him.", "Waivers");
+    return false;
+  }
   const int from = w.Holder;
   if (!TakePlayer(w)) return false;
   AppendTransaction(s_, Tag(s_, team_) + " claim " + NameText(w.Name) + " from waivers<BR><BR>");

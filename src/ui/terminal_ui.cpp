@@ -37,6 +37,11 @@ bool IsUtf8(const std::string& s) {
 // reads as UTF-8 (a file name in a message) is shown as it is: accented letters
 // of Windows-1252 stand alone in names and so never read as UTF-8.
 std::string Show(const std::string& s) { return IsUtf8(s) ? s : Cp1252ToUtf8(s); }
+}  // namespace
+
+std::string ShowText(const std::string& s) { return Show(s); }
+
+namespace {
 // "[title] text", as every message, question and prompt begins.
 std::string Framed(const std::string& title, const std::string& text) {
   return fmt::format("[{}] {}", Show(title), Show(text));
@@ -75,6 +80,10 @@ std::optional<std::string> TerminalUi::readLine(const std::string& shown) {
 Answer TerminalUi::ask(const std::string& text, const std::string& title, Buttons buttons) {
   std::string choices = buttons == Buttons::YesNoCancel ? " (yes/no/cancel) " : " (yes/no) ";
   std::string shown = fmt::format("{}{}", Framed(title, text), choices);
+  if (text == kOverwriteQuestion && answers_.empty() && (overwrite_ || answerAll_)) {
+    out_ << shown << (overwrite_ ? "yes (--overwrite)" : "no (only --overwrite answers this)") << "\n";
+    return overwrite_ ? Answer::Yes : Answer::No;
+  }
   if (answers_.empty() && answerAll_) {
     out_ << shown << (*answerAll_ == Answer::Yes ? "yes" : "no") << "\n";
     return *answerAll_;

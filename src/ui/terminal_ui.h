@@ -10,11 +10,20 @@
 
 namespace kvl {
 
+// Record text (Windows-1252) as a terminal shows it; UTF-8 stays as it is.
+std::string ShowText(const std::string& s);
+
 class TerminalUi : public Ui {
  public:
   TerminalUi(std::istream& in, std::ostream& out, std::ostream& err);
 
   void answerAll(Answer a) { answerAll_ = a; }
+  // --overwrite: the one question --yes leaves alone is answered yes.
+  void allowOverwrite() { overwrite_ = true; }
+  // True when the overwrite question would be answered no without asking:
+  // --yes or --no given, no --overwrite and no answer queued.
+  bool refusesOverwrite() const { return answerAll_ && !overwrite_ && answers_.empty(); }
+  bool interactive() const { return interactive_; }
   void addAnswer(std::string a) { answers_.push_back(std::move(a)); }
 
   void tell(const std::string& text, const std::string& title) override;
@@ -39,6 +48,7 @@ class TerminalUi : public Ui {
   std::ostream& out_;
   std::ostream& err_;
   std::optional<Answer> answerAll_;
+  bool overwrite_ = false;
   std::deque<std::string> answers_;
   bool progressShown_ = false;
   bool interactive_;

@@ -9,6 +9,9 @@
 namespace kvl {
 
 enum class Buttons { YesNo, YesNoCancel, OkCancel };
+
+// The one question a blanket yes must not answer: it would write over a league.
+inline constexpr const char* kOverwriteQuestion = "File Exists! Overwrite?";
 enum class Answer { Yes, No, Cancel };
 
 class Ui {

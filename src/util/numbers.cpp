@@ -124,6 +124,22 @@ std::optional<double> WholeIn(std::string_view text, double low, double high) {
   return v;
 }
 
+std::optional<double> DollarsIn(std::string_view text, double high) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  if (!text.empty() && text.front() == '$') text.remove_prefix(1);
+  double v = 0;
+  bool digit = false;
+  for (char c : text) {
+    if (c == ',' && digit) continue;
+    if (c < '0' || c > '9') return std::nullopt;
+    v = v * 10 + (c - '0');
+    digit = true;
+  }
+  if (!digit || v > high) return std::nullopt;
+  return v;
+}
+
 std::string NumText(double x) {
   if (x == 0.0) return "0";
   // A whole number prints as its digits, and most are whole: skip the printf.

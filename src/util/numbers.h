@@ -18,6 +18,10 @@ double Val(std::string_view text);
 // The Val of typed text rounded (half to even) to the whole number a field
 // stores; nullopt when that falls outside [low, high], so the field keeps its value.
 std::optional<double> WholeIn(std::string_view text, double low, double high);
+// An amount of whole dollars as typed: digits, with a "$" before them and
+// commas between them allowed ("$250,000"); nullopt for anything else or
+// above `high`.
+std::optional<double> DollarsIn(std::string_view text, double high);
 // A number as text with no leading blank: 12 -> "12", -3 -> "-3", 2.5 -> "2.5".
 std::string NumText(double x);
 // Formats with a number mask: "0,000", "$#,##0", "$#,##0.00", "$0,000", "$0.00",

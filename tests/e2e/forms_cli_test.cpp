@@ -46,16 +46,22 @@ TEST(FormsCli, PlayerAndTeamCards) {
   lg.expectTranscript(__FILE__, "forms_cards.txt");
 }
 
-// Numbers out of their field's range keep the old value; a draft of more than 255 picks is cut.
+// A draft of more than 255 picks is cut; the tree chooses the playoff size and
+// says so. A number out of its field's range, a text for a number or a choice,
+// and a folder longer than its 20 characters are refused, and nothing changes.
 TEST(FormsCli, Options) {
   CliLeague lg(StandardLeague(29));
   lg.kvlEach(
-      {{"--yes", "options", "--set", "DraftRounds=9", "TradeDeadline=256", "UnresAge=31.5", "AgeExempt=abc", "MinGP=0",
-        "CurrentYear=40000", "OptFarmStreaks=yes", "OutputPage16=on", "OutputPage1=off",
-        "OutputDir=/home/commissioner/league/pages", "RootDir=/kvl", "PlayoffTree=0", "LinesDirectory=  /srv/lines  "},
-       {"--yes", "options", "--set", "TradeDeadline=-1", "UnresAge=28.5", "CurrentYear=-3", "PlayoffTree=1",
-        "LinesDirectory=/srv/lines/", "DraftRounds=8"},
+      {{"--yes", "options", "--set", "DraftRounds=9", "MinGP=0", "CurrentYear=2027", "OptFarmStreaks=yes",
+        "OutputPage16=on", "OutputPage1=off", "OutputDir=/srv/kvl/pages", "RootDir=/kvl", "PlayoffTree=0",
+        "LinesDirectory=  /srv/lines  "},
+       {"--yes", "options", "--set", "PlayoffTree=1", "LinesDirectory=/srv/lines/", "DraftRounds=8"},
        {"--yes", "options", "--set", "TradeDeadline=255"},
+       {"options", "--set", "TradeDeadline=256"},
+       {"options", "--set", "UnresAge=28.5"},
+       {"options", "--set", "CurrentYear=abc"},
+       {"options", "--set", "PlayoffTree=conference"},
+       {"options", "--set", "OutputDir=/home/commissioner/league/pages"},
        {"options", "--set", "GoalsLevel=0"},
        {"options", "--set", "PlayoffSize="},
        {"options", "--set", "OptMoney=maybe"},
@@ -197,6 +203,8 @@ TEST(FormsCli, WaiversAndFreeAgents) {
               {"--yes", "free-agents", "1", "--sign", "Free Agent 2", "--salary", "750000", "--years", "3"},
               {"free-agents"},
               {"free-agents", "3", "--sign", "3"}});
+  // The salary is asked again until it is whole dollars; "$250,000" is.
+  lg.answered("abc\n250k\n$250,000\n3\n", {"--yes", "free-agents", "2", "--sign", "3"});
   lg.note("log: " + ReadAll(lg.path + ".tra"));
   lg.expectTranscript(__FILE__, "forms_waivers.txt");
 }

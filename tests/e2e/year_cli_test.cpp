@@ -83,10 +83,12 @@ TEST(YearCommands, ASeasonThePlayoffsToAChampionANewSeasonAndASecondYear) {
   };
   const auto season = files(lg.path);
 
-  lg.kvl({"--yes", "start-playoffs"});
-  const std::string rerated = (folder / "rerated").string(), next = (folder / "next").string();
-  lg.path += "PLF";
-  lg.kvl({"--yes", "play-games", "--season", "--save-as", rerated + ".lge"});
+  // From here on each run opens the league the one before left open, as a
+  // commissioner's next command does: the playoffs, then each save under a new
+  // name (a name without a folder goes to the home folder).
+  lg.pinLeague = false;
+  lg.kvlEach({{"--yes", "start-playoffs"}, {"info"}, {"--yes", "play-games", "--season", "--save-as", "rerated"}, {"info"}});
+  const std::string rerated = (lg.home / "rerated").string(), next = (folder / "next").string();
   EXPECT_EQ(files((folder / "year").string()), season) << "the regular season's files stay as they were";
   Harness before;
   LoadLg(before.state, rerated);
@@ -110,8 +112,11 @@ TEST(YearCommands, ASeasonThePlayoffsToAChampionANewSeasonAndASecondYear) {
   EXPECT_EQ(std::tuple(final.size(), most), std::tuple(7u, 4));
   EXPECT_GE(played, 4);
 
-  lg.path = rerated;
-  lg.kvl({"--yes", "new-season", "--save-as", next + ".lge"});
+  lg.kvlEach({{"--yes", "new-season", "--save-as", next + ".lge"}, {"info"}});
+  // --yes does not write over a league; --overwrite does.
+  const Bytes old = ReadFileBytes(rerated + ".ros");
+  lg.kvl({"--yes", "save-as", rerated});
+  EXPECT_EQ(ReadFileBytes(rerated + ".ros"), old);
   Harness after;
   LoadLg(after.state, next);
   after.state.leagueLock.release();
@@ -127,9 +132,8 @@ TEST(YearCommands, ASeasonThePlayoffsToAChampionANewSeasonAndASecondYear) {
       EXPECT_EQ(now.GP + now.G + now.A + now.StarPoints, 0);
     }
   }
-  lg.path = next;
-  lg.kvl({"--yes", "make-schedule"});
-  lg.kvl({"--yes", "play-games", "--season"});
+  lg.kvlEach({{"--yes", "make-schedule"}, {"--yes", "play-games", "--season"}, {"--overwrite", "--yes", "save-as", rerated}});
+  EXPECT_NE(ReadFileBytes(rerated + ".ros"), old);
   lg.expectTranscript(__FILE__, "year.txt");
 }
 

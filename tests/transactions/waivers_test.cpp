@@ -97,6 +97,30 @@ TEST(Waivers, ClaimableForFiveDaysAndGoneAfterSeven) {
       << "nobody claimed: the placing team drops to the bottom";
 }
 
+// A team's own player is not claimed (it recalls him); another team takes him
+// as a scratch and may claim no more, and a holder who loses him to a later
+// claim may claim again.
+TEST(Waivers, OwnPlayerRefusedOthersTakeHimAsAScratch) {
+  Wire w;
+  const std::string name = w.veteran().Name.str();
+  w.placed();
+  LeagueState& s = w.h.state;
+  auto listOn = [&](int t) {
+    loadteam(s, t, 0);
+    for (int slot = 0; slot < kRosterSlots; ++slot)
+      if (s.player(0, slot).Name.str() == name) return s.player(0, slot).list();
+    return -1;
+  };
+  EXPECT_FALSE(Waivers(s, 0).cmdClaim(1));
+  EXPECT_EQ(w.h.ui.callsOf("tell").back().title, "Waivers");
+  EXPECT_EQ((std::array{int(ReadWaivers(s)[0].Holder), listOn(0)}), (std::array{0, 0})) << "nothing moved";
+  ASSERT_TRUE(Waivers(s, 2).cmdClaim(1));
+  EXPECT_EQ((std::array{listOn(0), listOn(2), int(s.team(2).Waived != 0)}), (std::array{-1, 1, 1}));
+  ASSERT_TRUE(Waivers(s, 1).cmdClaim(1));
+  EXPECT_EQ((std::array{listOn(2), listOn(1), int(s.team(1).Waived != 0), int(s.team(2).Waived != 0)}),
+            (std::array{-1, 1, 1, 0}));
+}
+
 TEST(UpdatePriority, MovesATeamToTheBottomAndRebuildsADamagedList) {
   Wire w;
   LeagueState& s = w.h.state;

@@ -37,6 +37,16 @@ TEST(Val, ReadsTheLeadingNumber) {
   }
 }
 
+TEST(DollarsIn, TakesWholeDollarsAsTypedAndNothingElse) {
+  struct Case { const char* in; std::optional<double> out; };
+  for (Case c : {Case{"250000", 250000}, {"$250,000", 250000}, {" 250,000 ", 250000}, {"0", 0},
+                 {"99,999,999", 99999999}, {"100,000,000", std::nullopt}, {"abc", std::nullopt},
+                 {"250k", std::nullopt}, {"2.5", std::nullopt}, {"-5", std::nullopt}, {"$", std::nullopt},
+                 {",5", std::nullopt}, {"", std::nullopt}}) {
+    EXPECT_EQ(DollarsIn(c.in, 99999999), c.out) << '"' << c.in << '"';
+  }
+}
+
 TEST(Val, TooLargeOverflows) {
   EXPECT_THROW(Val("1e400"), KvlError);
   EXPECT_EQ(Val("1e-400"), 0.0);
