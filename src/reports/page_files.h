@@ -16,7 +16,14 @@ fs::path HeaderFile(const LeagueState& s, int n);
 fs::path FooterFile(const LeagueState& s, int n);
 // Appends the lines of a header or footer file; false when there is none.
 bool ReadPageLines(const fs::path& path, std::vector<std::string>& out);
-// Writes the lines with CR LF ends, making Transfer/ when it is missing.
+// Writes the lines with CR LF ends, making the folder when it is missing.
+void WriteLines(const fs::path& path, const std::vector<std::string>& lines);
+// The first line of every page: its character set, the records'
+// Windows-1252, and a viewport, so a web server and a phone show names right.
+inline constexpr const char* kPageHead =
+    "<META HTTP-EQUIV=\"Content-Type\" CONTENT=\"text/html; charset=windows-1252\">"
+    "<META NAME=\"viewport\" CONTENT=\"width=device-width, initial-scale=1\">";
+// A page: kPageHead, then its lines.
 void WritePage(const fs::path& path, const std::vector<std::string>& lines);
 
 }  // namespace kvl

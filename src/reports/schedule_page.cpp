@@ -27,8 +27,9 @@ std::string GameLine(const LeagueState& s, int n, const ScheduleRecord& r) {
   // A game of a series that ended before it was needed.
   if (playoffs && r.AwayScore == 0 && r.HomeScore == 0) return "<strike>" + num + "</strike><BR>";
   std::string file = playoffs ? "-R" + NumText(s.Playoff.PlayoffRound) + "-" + num : num;
-  return "<A HREF=" + s.LeagueShort + file + ".html>" + num + "  " + away + " " + NumText(r.AwayScore) + " at " +
-         home + " " + NumText(r.HomeScore) + "</A>" + Overtime(r.Overtime) + "<BR>";
+  return Link(s.LeagueShort + file + ".html",
+              num + "  " + away + " " + NumText(r.AwayScore) + " at " + home + " " + NumText(r.HomeScore)) +
+         Overtime(r.Overtime) + "<BR>";
 }
 
 }  // namespace

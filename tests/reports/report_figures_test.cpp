@@ -2,6 +2,7 @@
 // the order of the leaders' tables, and what a roster costs.
 #include <gtest/gtest.h>
 
+#include "reports/html.h"
 #include "reports/payroll.h"
 #include "reports/player_lists.h"
 #include "reports/standings_rank.h"
@@ -184,6 +185,25 @@ TEST(Leaders, MinGoalieGP) {
     h.state.Playoff.PlayoffRound = static_cast<u8>(c.round);
     EXPECT_EQ(MinGoalieGP(h.state), c.minimum) << c.teams << " teams, " << c.gamesPlayed << " games";
   }
+}
+
+// A team's anchor keeps its blanks and quotes from splitting it, and an
+// attribute's value stays in its quotes.
+TEST(Columns, ValuesLabelsAndAnchorsKeepTheirShape) {
+  Harness h;
+  h.state.league.NumTeams = 2;
+  h.state.LeagueShort = "test";
+  h.state.Teams[0].Name.set("Glaciers");
+  h.state.Teams[1].Name.set("New \"York");
+  struct Case {
+    const char* rule;
+    std::string got, expected;
+  } cases[] = {
+      {"a quoted value", Quoted("a\" b=c"), "\"a&quot; b=c\""},
+      {"an anchor without blanks or quotes", TeamAnchorName(h.state, 1), "New%20%22York"},
+      {"link and anchor agree", TeamLink(h.state, 1), "<A HREF=\"testRosters.html#New%20%22York\">New &quot;York</A>"},
+  };
+  for (const Case& c : cases) EXPECT_EQ(c.got, c.expected) << c.rule;
 }
 
 TEST(Payroll, WhoIsPaidAndHowMuch) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "reports/page_files.h"
 #include "sim/exhibition.h"
 #include "support/golden.h"
 #include "support/kvl_test.h"
@@ -50,7 +51,7 @@ TEST_F(SeededGame, SeasonPageCarriesTheMoneyAndStarPointsGoToTheSeason) {
   expected.insert(notes, {"<BR><B>Financial</B><P>", "Attendance: 15000<BR>", "Net Profit: $600,000.00<BR>"});
   expected.back() = "<P>The end</P>";
   expected.push_back("</BODY></HTML>");
-  EXPECT_EQ(ReadAll(f.h.home / "Transfer" / "test3.html"), Page(expected));
+  EXPECT_EQ(ReadAll(f.h.home / "Transfer" / "test3.html"), std::string(kPageHead) + "\r\n" + Page(expected));
   for (const Star& st : PickStars(game)) EXPECT_EQ(f.h.state.player(st.side, st.slot).StarPoints, CInt(st.points));
 }
 
