@@ -31,9 +31,12 @@ std::string Injury(const Player& p) {
   }
 }
 
+// The hand is stored as its letter; a record without one shows none.
+std::string HandColumn(u8 hand) { return hand == 'L' ? "L  " : hand == 'R' ? "R  " : "   "; }
+
 std::string RosterRow(const Player& p) {
   std::string line = Fill(p.Num, 2) + " " + HtmlText(Pad(p.Name.str(), 22)) + " " +
-                     std::string(PosName[std::min<std::size_t>(p.Pos, 4)]) + " " + (p.Hand == 0 ? "L  " : "R  ");
+                     std::string(PosName[std::min<std::size_t>(p.Pos, 4)]) + " " + HandColumn(p.Hand);
   line += p.Condition == 100 ? "OK " : Pad(NumText(p.Condition), 3);
   line += Injury(p);
   for (int r : kShown) line += Pad(NumText(p.rating(r)), 3);

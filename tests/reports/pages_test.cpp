@@ -37,7 +37,10 @@ struct Published : ScheduledLeague {
 // One kept page per group; header files replace the heading, and the waivers
 // page takes footer 20.
 TEST(Pages, TheSiteAfterTwoDays) {
-  Published lg;
+  LeaguePlan plan = SimLeague(4);
+  plan.rosters[0][1].Hand = 'R';
+  plan.rosters[0][2].Hand = 0;  // none stored
+  Published lg(plan);
   EXPECT_EQ(lg.publish(), 23);
   for (const char* name : {"TeamStats.html", "Standings.html", "Rosters.html", "Leaders.html", "TeamScoring.html",
                            "Injury.html", "Finance.html", "Futures.html", "Schedule.html", "Lines.html",
