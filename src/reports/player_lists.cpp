@@ -2,6 +2,7 @@
 
 #include "league/league_files.h"
 #include "reports/html.h"
+#include "util/fixed_text.h"
 #include "util/numbers.h"
 
 namespace kvl {
@@ -52,8 +53,16 @@ int MinGoalieGP(const LeagueState& s) {
 
 std::string RookieMark(const Player& p) { return p.Rookie ? "*" : " "; }
 
-std::string NameAndTeam(const LeagueState& s, const RosterEntry& e) {
-  return e.p.Name.str() + " (" + s.team(e.team).Name.str() + ")";
+std::string NameAndTeam(const LeagueState& s, const RosterEntry& e, std::size_t width) {
+  const std::string team = " (" + s.team(e.team).Name.str() + ")";
+  const std::size_t room = width > team.size() ? width - team.size() : 0;
+  std::string name = e.p.Name.str();
+  if (name.size() > room) name = ShortName(name);
+  return name.substr(0, room) + team;
+}
+
+std::string LeaderLabel(const LeagueState& s, const std::string& lead, const RosterEntry& e, std::size_t width) {
+  return CutLabel(lead + NameAndTeam(s, e, width > lead.size() ? width - lead.size() : 0), width);
 }
 
 }  // namespace kvl

@@ -125,12 +125,12 @@ void FarmStandingsPage(PageRun& run) {
   std::vector<StandingRow> rows = RankFarm(s);
   for (int c = 0; c < 2; ++c) {
     page.add("<BR><H3>" + HtmlText(s.league.Conf[static_cast<std::size_t>(c)].Name.str()) + " Conference</H3>");
-    page.add("<PRE>                  GP   W  L  T    P  GF  GA   PCT");
+    page.add("<PRE>                      GP   W  L  T    P  GF  GA   PCT");
     for (const StandingRow& r : Filter(s, rows, c, -1)) {
       const FarmTeam& f = s.Farm[static_cast<std::size_t>(r.team)];
-      std::string label = f.Name.str() + "(" + s.team(r.team).Abbrev.str() + ")";
-      label.resize(std::max<std::size_t>(label.size(), 16), ' ');
-      page.add(HtmlText(label) + Fill(r.GP, 4) + Fill(f.W, 4) + Fill(f.L, 3) + Fill(f.T, 3) + Fill(r.Points, 5) +
+      // The widest label: a 15-letter name and "(ABC)".
+      const std::string label = f.Name.str() + "(" + s.team(r.team).Abbrev.str() + ")";
+      page.add(CutLabel(label, 20) + Fill(r.GP, 4) + Fill(f.W, 4) + Fill(f.L, 3) + Fill(f.T, 3) + Fill(r.Points, 5) +
                Fill(f.GF, 4) + Fill(f.GA, 4) + Fill(Pct(r.Points, r.GP, 2), 6));
     }
     page.add("</PRE>");

@@ -82,6 +82,14 @@ TEST(DemoCli, ATradeShowsEverywhereAndSavesAsItLoads) {
   const Snapshot saved = lg.files();
   lg.kvl({"--yes", "save"});
   EXPECT_EQ(Differences(saved, lg.files()), std::vector<std::string>{});
+  // On the team scoring page his season is split: the line of the team he left, then his new team's.
+  lg.kvl({"output-html", "--pages", "teamscoring"});
+  std::istringstream scoring(ReadAll(lg.home / "Transfer" / "DemoNextTeamScoring.html"));
+  std::string rows;
+  for (std::string row; std::getline(scoring, row);)
+    if (row.find(line.P.Name.str()) != std::string::npos) rows += row + "\n";
+  EXPECT_EQ(std::count(rows.begin(), rows.end(), '\n'), 2) << rows;
+  lg.note("his rows on the team scoring page:\n" + rows);
   lg.expectTranscript(__FILE__, "trade.txt");
 }
 

@@ -187,18 +187,29 @@ TEST(Leaders, MinGoalieGP) {
   }
 }
 
-// A team's anchor keeps its blanks and quotes from splitting it, and an
-// attribute's value stays in its quotes.
+// A value is right-aligned in its column and keeps its right-hand part when too
+// wide; a label is cut to its width, the team of a leader's row kept whole; a
+// team's anchor keeps its blanks and quotes from splitting it.
 TEST(Columns, ValuesLabelsAndAnchorsKeepTheirShape) {
   Harness h;
   h.state.league.NumTeams = 2;
   h.state.LeagueShort = "test";
   h.state.Teams[0].Name.set("Glaciers");
   h.state.Teams[1].Name.set("New \"York");
+  auto leader = [&](const std::string& name, std::size_t width) {
+    return LeaderLabel(h.state, " 1.", Scorer(1, 1, 0, name), width);
+  };
   struct Case {
     const char* rule;
     std::string got, expected;
   } cases[] = {
+      {"right-aligned", Fill("7", 3), "  7"},
+      {"too wide: the leading digits go", Fill("1234", 3), "234"},
+      {"a label padded, then escaped", CutLabel("Farm&Co(ABC)", 14), "Farm&amp;Co(ABC)  "},
+      {"a label cut", CutLabel("Farmington Hills(ABC)", 20), "Farmington Hills(ABC"},
+      {"name and team fit", leader("Al Bo", 24), " 1.Al Bo (Glaciers)     "},
+      {"a long name gives way to its short form", leader("Maximilian Kowalski", 25), " 1.M. Kowalski (Glaciers)"},
+      {"then it is cut", leader("Maximilian Kowalczykowski", 25), " 1.M. Kowalczy (Glaciers)"},
       {"a quoted value", Quoted("a\" b=c"), "\"a&quot; b=c\""},
       {"an anchor without blanks or quotes", TeamAnchorName(h.state, 1), "New%20%22York"},
       {"link and anchor agree", TeamLink(h.state, 1), "<A HREF=\"testRosters.html#New%20%22York\">New &quot;York</A>"},
