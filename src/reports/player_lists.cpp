@@ -1,6 +1,8 @@
 #include "reports/player_lists.h"
 
 #include "league/league_files.h"
+#include "league/ratings.h"
+#include "league/tables.h"
 #include "reports/html.h"
 #include "util/fixed_text.h"
 #include "util/numbers.h"
@@ -49,6 +51,14 @@ int MinGoalieGP(const LeagueState& s) {
   if (s.league.InPlayoffs) return s.Playoff.PlayoffRound;
   if (s.numTeams() < 2) return 0;
   return static_cast<int>(Int(s.league.GamesPlayed / (s.numTeams() / 2.0) * 0.4 + 0.5));
+}
+
+std::vector<std::string> PositionAndRatings(const Player& p) {
+  auto text = [&](int value) { return p.Pos == kGoalie && value == 0 ? std::string("NA") : NumText(value); };
+  std::vector<std::string> values{Trim(PosName[std::min<std::size_t>(p.Pos, 4)])};
+  for (int r = kInt; r <= kLdr; ++r) values.push_back(text(p.rating(r)));
+  values.push_back(text(Overall(p)));
+  return values;
 }
 
 std::string RookieMark(const Player& p) { return p.Rookie ? "*" : " "; }

@@ -11,6 +11,7 @@
 #include "support/page_markup.h"
 #include "support/sim_league.h"
 #include "team/cards_email.h"
+#include "transactions/free_agents.h"
 
 namespace kvl::test {
 namespace {
@@ -42,10 +43,17 @@ TEST(Pages, TheSiteAfterTwoDays) {
   plan.rosters[0][2].Hand = 0;  // none stored
   Published lg(plan);
   EXPECT_EQ(lg.publish(), 23);
+  // Free agents by position; a goalie's rating of 0 does not apply to him.
+  RecordFile db(lg.h.state.swap(swp::Database), DbRecord::kSize);
+  Player goalie = MakePlayer("Free Goalie", kGoalie, 60, 0);
+  goalie.rating(kSco) = 0;
+  db.putRecord(db.count() + 1, DbRecord{0, MakePlayer("Free Centre", kCentre, 55, 0)});
+  db.putRecord(db.count() + 1, DbRecord{0, goalie});
+  FreeAgents(lg.h.state).cmdOutput();
   for (const char* name : {"TeamStats.html", "Standings.html", "Rosters.html", "Leaders.html", "TeamScoring.html",
                            "Injury.html", "Finance.html", "Futures.html", "Schedule.html", "Lines.html",
                            "Individual.html", "Waivers.html", "PlayerVitals.html", "Coaches.html", "Transact.html",
-                           "GMs.html", "FarmStandings.html", "FarmLeaders.html", "TransactSeason.html"})
+                           "GMs.html", "FarmStandings.html", "FarmLeaders.html", "TransactSeason.html", "FreeAgents.html"})
     ExpectGolden(__FILE__, name, lg.page(name));
   WriteText(lg.h.home / "Headers" / "test.hd1", "<P>OUR HEADER</P>\r\n");
   WriteText(lg.h.home / "Headers" / "test.ft11", "<P>NOT THIS</P>\r\n");
@@ -90,6 +98,11 @@ const std::vector<HostileText> kHostile{
      [](LeagueState& s, const std::string& t) {
        EditRecord<ProspectList>(s.swap(swp::Prospects), 1, [&](ProspectList& l) { l.Name[0].set(t); });
      }},
+    {"free agent", "<b>agent x=\"",
+     [](LeagueState& s, const std::string& t) {
+       RecordFile db(s.swap(swp::Database), DbRecord::kSize);
+       db.putRecord(db.count() + 1, DbRecord{0, MakePlayer(t, kCentre, 50, 0)});
+     }},
 };
 
 // Every page that prints a text of the league parses to the same tags and
@@ -101,6 +114,7 @@ TEST(Pages, TextsOfTheLeagueAddNoMarkup) {
       for (const HostileText& h : kHostile) h.put(s, hostile ? h.text : std::string(h.text.size(), 'x'));
     });
     lg->publish();
+    FreeAgents(lg->h.state).cmdOutput();
     return lg;
   };
   const auto plain = site(false), marked = site(true);
