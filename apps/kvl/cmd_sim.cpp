@@ -4,7 +4,6 @@
 #include "console/league_view.h"
 #include "session.h"
 #include "util/error.h"
-#include "reports/page_files.h"
 #include "sim/exhibition.h"
 #include "sim/game_day.h"
 #include "sim/sim_profile.h"
@@ -48,7 +47,7 @@ void PlayGames(Session& s, const PlayArgs& a) {
   if (games.StopRequested) text += "Stopped by the interrupt between game days.\n";
   if (games.champion >= 0) text += s.state.team(games.champion).Name.str() + " win the playoffs.\n";
   else if (games.IsSeasonOver) text += "The season is over.\n";
-  text += fmt::format("Box scores and the daily page: {}\n", TransferFile(s.state, "TodayGames.html").string());
+  text += fmt::format("Box scores and the daily page: {}\n", games.dailyPage.string());
   s.ui.print(text);
 }
 

@@ -7,5 +7,8 @@ namespace kvl {
 // Writes the groups whose stored flag is set; the playoff tree only once the
 // season has reached the playoffs.
 void AutoHTMLOutput(LeagueState& s);
+// A finished playoff round's schedule page, when the schedule group is set:
+// the next round's schedule takes the place of its games.
+void AutoRoundOutput(LeagueState& s);
 
 }  // namespace kvl

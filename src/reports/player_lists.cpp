@@ -4,6 +4,7 @@
 #include "league/ratings.h"
 #include "league/tables.h"
 #include "reports/html.h"
+#include "season/playoff_series.h"
 #include "util/fixed_text.h"
 #include "util/numbers.h"
 
@@ -48,7 +49,7 @@ bool OutScores(const Player& a, const Player& row) {
 }
 
 int MinGoalieGP(const LeagueState& s) {
-  if (s.league.InPlayoffs) return s.Playoff.PlayoffRound;
+  if (s.league.InPlayoffs) return ShownPlayoffRound(s);
   if (s.numTeams() < 2) return 0;
   return static_cast<int>(Int(s.league.GamesPlayed / (s.numTeams() / 2.0) * 0.4 + 0.5));
 }

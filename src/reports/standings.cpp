@@ -146,21 +146,25 @@ std::string Matchup(const LeagueState& s, std::size_t i) {
   return side(p.SeriesHome[i], p.HomeWins[i]) + "<BR>" + side(p.SeriesAway[i], p.AwayWins[i]) + "<BR>";
 }
 
-// One column per round played so far; later rounds' cells are staggered down
-// by spacers so each matchup sits between the two it came from.
+// One column per round played so far, none before the playoffs; later
+// rounds' cells are staggered down by spacers so each matchup sits between
+// the two it came from.
 void TreePage(PageRun& run) {
   const LeagueState& s = run.s;
   Page page(run, kTree);
   page.add("<H2>Playoff Tree</H2>");
   page.add("<TABLE>");
-  const int rounds = std::max<int>(s.Playoff.PlayoffRound, 1);
+  const int rounds = ShownPlayoffRound(s);
+  if (rounds == 0) {
+    page.add("</TABLE>");
+    return page.write();
+  }
   std::string head = "<TR>";
   for (int r = 1; r <= rounds; ++r) head += "<TH WIDTH=150 ALIGN=left><PRE><B>Round " + NumText(r) + "</B></TH>";
   page.add(head + "</TR>");
   page.add("<TR>");
   for (int r = 1; r <= rounds; ++r) {
-    int stage = s.league.PlayoffSize + r - 1;
-    if (stage > 3) break;
+    const int stage = s.league.PlayoffSize + r - 1;
     std::string cell = "<TD VALIGN=top>";
     for (int k = 1; k < r; ++k) cell += "<PRE> <BR> <BR></PRE>";
     for (int i = 0; i < SeriesInStage(stage); ++i) {

@@ -126,7 +126,7 @@ bool Games::PlayGameDay() {
   const bool finalDecided = l.InPlayoffs && EndPlayoffRound();
   // Read again: the playoffs may have struck games or begun a round.
   if (!IsSeasonOver) page.AddNextGames(ReadSchedule(s_.swap(swp::Schedule)));
-  page.Close();
+  dailyPage = page.Close();
   RestTeams(played);
   WaiversDay(s_);
   if (l.OptAutoOutput) AutoHTMLOutput(s_);
@@ -140,9 +140,12 @@ bool Games::PlayGameDay() {
 }
 
 // A finished round writes the next one's schedule, and play goes on; true
-// when the final is decided.
+// when the final is decided. The finished round's schedule page goes out
+// before its schedule is replaced.
 bool Games::EndPlayoffRound() {
-  switch (EndPlayoffDay(s_)) {
+  switch (EndPlayoffDay(s_, [this] {
+    if (s_.league.OptAutoOutput) AutoRoundOutput(s_);
+  })) {
     case PlayoffProgress::NewRound:
       IsSeasonOver = false;
       return false;

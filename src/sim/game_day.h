@@ -48,6 +48,7 @@ class Games {
   // What this console has played, for the front ends' summaries.
   int gamesPlayed = 0, daysPlayed = 0;
   int champion = -1;  // once the final is decided
+  fs::path dailyPage;  // the last daily results page written
 
  private:
   bool RefuseWithoutSchedule();

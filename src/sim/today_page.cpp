@@ -57,9 +57,11 @@ void TodayPage::AddNextGames(const std::vector<ScheduleRecord>& games) {
   }
 }
 
-void TodayPage::Close() {
+fs::path TodayPage::Close() {
   if (!ReadPageLines(FooterFile(s_, 0), lines_)) lines_.push_back("</BODY></HTML>");
-  WritePage(TransferFile(s_, "TodayGames.html"), lines_);
+  fs::path path = TransferFile(s_, "TodayGames.html");
+  WritePage(path, lines_);
+  return path;
 }
 
 }  // namespace kvl

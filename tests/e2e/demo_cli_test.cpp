@@ -7,6 +7,7 @@
 #include "support/golden.h"
 #include "support/kvl_test.h"
 #include "support/league_cli.h"
+#include "support/page_markup.h"
 #include "transactions/draft_list.h"
 #include "transactions/draft_picks.h"
 
@@ -159,6 +160,21 @@ TEST(DemoCli, AnEntryDraftThenAnExpansionTeamStockedAndScheduled) {
               {"--yes", "make-schedule"}});
   EXPECT_TRUE(fs::exists(lg.home / "Transfer" / "DemoReratedExpansionDraft.html"));
   lg.expectTranscript(__FILE__, "drafts.txt");
+}
+
+// The season and its playoffs as published: a schedule page for each round
+// and none past the final, a tree of the rounds played, and every link leading
+// to a page written.
+TEST(DemoCli, ThePublishedSeasonAndPlayoffsLinkUp) {
+  const fs::path transfer = DemoHome() / "Transfer";
+  EXPECT_EQ(DeadLinks(transfer), std::vector<std::string>{});
+  // Eight teams send four a conference: three rounds.
+  for (int r = 1; r <= 4; ++r)
+    EXPECT_EQ(fs::exists(transfer / fmt::format("DemoPLF-Round{}-Schedule.html", r)), r <= 3) << "round " << r;
+  const std::string tree = ReadAll(transfer / "DemoPLFStandingsTree.html");
+  EXPECT_NE(tree.find("Round 3"), std::string::npos);
+  EXPECT_EQ(tree.find("Round 4"), std::string::npos);
+  EXPECT_EQ(ReadAll(transfer / "DemoStandingsTree.html").find("Round"), std::string::npos);  // before the playoffs
 }
 
 }  // namespace

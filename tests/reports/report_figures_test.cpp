@@ -174,9 +174,11 @@ TEST(Leaders, MinGoalieGP) {
     bool playoffs;
     int round, minimum;
   };
-  // Four tenths of the average team's games, rounded half up; the round in the playoffs.
+  // Four tenths of the average team's games, rounded half up; the round in the
+  // playoffs, and the final's once it is decided (round 5 of a top 16).
   const std::vector<Case> cases{{4, 0, false, 0, 0},     {4, 2, false, 0, 0},   {4, 4, false, 0, 1},
-                                {24, 792, false, 0, 26}, {24, 30, false, 0, 1}, {24, 792, true, 3, 3}};
+                                {24, 792, false, 0, 26}, {24, 30, false, 0, 1}, {24, 792, true, 3, 3},
+                                {24, 792, true, 5, 4}};
   for (const Case& c : cases) {
     Harness h;
     h.state.league.NumTeams = static_cast<u8>(c.teams);
