@@ -1,5 +1,6 @@
 #pragma once
-// The pages written by themselves after game days when the league asks for it.
+// The pages written by themselves at the end of a run of game days when the
+// league asks for it.
 #include "league/league_state.h"
 
 namespace kvl {

@@ -129,14 +129,22 @@ bool Games::PlayGameDay() {
   dailyPage = page.Close();
   RestTeams(played);
   WaiversDay(s_);
-  if (l.OptAutoOutput) AutoHTMLOutput(s_);
   ++daysPlayed;
+  pagesDue_ = true;
+  // A run publishes once, at its end; the final ends every run, and its pages
+  // go out before the re-rate saves the league under another name.
+  if (!IsBatchRunning || finalDecided) PublishPages();
   // The champion is told, and the re-rate and its save run, once the day is whole.
   if (finalDecided) {
     champion = PlayoffChampion(s_);
     FinishPlayoffs(s_, playoffEnd);
   }
   return true;
+}
+
+void Games::PublishPages() {
+  if (pagesDue_ && s_.league.OptAutoOutput) AutoHTMLOutput(s_);
+  pagesDue_ = false;
 }
 
 // A finished round writes the next one's schedule, and play goes on; true
@@ -213,6 +221,7 @@ bool Games::RunDays(int days) {
     RefreshGameList();
   }
   s_.ui.progressDone();
+  PublishPages();
   IsBatchRunning = false;
   return true;
 }

@@ -157,14 +157,20 @@ TEST(DemoCli, AnEntryDraftThenAnExpansionTeamStockedAndScheduled) {
               {"--yes", "align", "expansion", "Newport"},
               {"--yes", "make-schedule"},  // an empty expansion team
               {"--yes", "expansion-draft", "--auto", "--output"},
-              {"--yes", "make-schedule"}});
+              {"--yes", "make-schedule"},
+              {"free-agents", "--output"},
+              {"output-html"}});
   EXPECT_TRUE(fs::exists(lg.home / "Transfer" / "DemoReratedExpansionDraft.html"));
+  const std::string index = ReadAll(lg.home / "Transfer" / "DemoReratedindex.html");
+  for (const char* page : {"EntryDraft.html", "ExpansionDraft.html", "FreeAgents.html"})
+    EXPECT_NE(index.find(std::string("\"DemoRerated") + page + "\""), std::string::npos) << page;
+  EXPECT_EQ(DeadLinks(lg.home / "Transfer"), std::vector<std::string>{});
   lg.expectTranscript(__FILE__, "drafts.txt");
 }
 
 // The season and its playoffs as published: a schedule page for each round
-// and none past the final, a tree of the rounds played, and every link leading
-// to a page written.
+// and none past the final, a tree of the rounds played, every page linked from
+// its league's index, and every link leading to a page written.
 TEST(DemoCli, ThePublishedSeasonAndPlayoffsLinkUp) {
   const fs::path transfer = DemoHome() / "Transfer";
   EXPECT_EQ(DeadLinks(transfer), std::vector<std::string>{});
@@ -175,6 +181,16 @@ TEST(DemoCli, ThePublishedSeasonAndPlayoffsLinkUp) {
   EXPECT_NE(tree.find("Round 3"), std::string::npos);
   EXPECT_EQ(tree.find("Round 4"), std::string::npos);
   EXPECT_EQ(ReadAll(transfer / "DemoStandingsTree.html").find("Round"), std::string::npos);  // before the playoffs
+  for (const char* league : {"DemoPLF", "Demo"}) {
+    const std::vector<std::string> linked = AttributeValues(ReadAll(transfer / (league + std::string("index.html"))), "HREF");
+    for (const auto& e : fs::directory_iterator(transfer)) {
+      const std::string name = e.path().filename().string();
+      const bool ofLeague = name.starts_with(league) && (league != std::string("Demo") || !name.starts_with("DemoPLF"));
+      if (!ofLeague || !name.ends_with(".html") || name == league + std::string("index.html")) continue;
+      EXPECT_NE(std::find(linked.begin(), linked.end(), name), linked.end()) << name << " is not in the index";
+    }
+  }
+  EXPECT_EQ(AttributeValues(ReadAll(transfer / "index.html"), "HREF"), std::vector<std::string>{"DemoPLFindex.html"});
 }
 
 }  // namespace

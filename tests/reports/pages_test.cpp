@@ -42,7 +42,7 @@ TEST(Pages, TheSiteAfterTwoDays) {
   plan.rosters[0][1].Hand = 'R';
   plan.rosters[0][2].Hand = 0;  // none stored
   Published lg(plan);
-  EXPECT_EQ(lg.publish(), 23);
+  EXPECT_EQ(lg.publish(), 24);
   // Free agents by position; a goalie's rating of 0 does not apply to him.
   RecordFile db(lg.h.state.swap(swp::Database), DbRecord::kSize);
   Player goalie = MakePlayer("Free Goalie", kGoalie, 60, 0);
@@ -53,7 +53,7 @@ TEST(Pages, TheSiteAfterTwoDays) {
   for (const char* name : {"TeamStats.html", "Standings.html", "Rosters.html", "Leaders.html", "TeamScoring.html",
                            "Injury.html", "Finance.html", "Futures.html", "Schedule.html", "Lines.html",
                            "Individual.html", "Waivers.html", "PlayerVitals.html", "Coaches.html", "Transact.html",
-                           "GMs.html", "FarmStandings.html", "FarmLeaders.html", "TransactSeason.html", "FreeAgents.html"})
+                           "GMs.html", "FarmStandings.html", "FarmLeaders.html", "TransactSeason.html", "FreeAgents.html", "index.html"})
     ExpectGolden(__FILE__, name, lg.page(name));
   WriteText(lg.h.home / "Headers" / "test.hd1", "<P>OUR HEADER</P>\r\n");
   WriteText(lg.h.home / "Headers" / "test.ft11", "<P>NOT THIS</P>\r\n");
@@ -103,6 +103,7 @@ const std::vector<HostileText> kHostile{
        RecordFile db(s.swap(swp::Database), DbRecord::kSize);
        db.putRecord(db.count() + 1, DbRecord{0, MakePlayer(t, kCentre, 50, 0)});
      }},
+    {"league name", "<title>x</title>", [](LeagueState& s, const std::string& t) { s.league.LeagueName.set(t); }},
 };
 
 // Every page that prints a text of the league parses to the same tags and
@@ -113,8 +114,8 @@ TEST(Pages, TextsOfTheLeagueAddNoMarkup) {
     auto lg = std::make_unique<Published>(SimLeague(4), 2, [hostile](LeagueState& s) {
       for (const HostileText& h : kHostile) h.put(s, hostile ? h.text : std::string(h.text.size(), 'x'));
     });
-    lg->publish();
     FreeAgents(lg->h.state).cmdOutput();
+    lg->publish();
     return lg;
   };
   const auto plain = site(false), marked = site(true);
@@ -133,29 +134,34 @@ TEST(Pages, TextsOfTheLeagueAddNoMarkup) {
 TEST(Pages, NoGamesPlayedGivesEmptyTables) {
   Harness h;
   h.load(SimLeague(4));
-  EXPECT_EQ(WritePageGroups(h.state, AllPageGroups(), true), 22);  // no schedule, no schedule page
+  EXPECT_EQ(WritePageGroups(h.state, AllPageGroups(), true), 23);  // no schedule, no schedule page
   std::string standings = ReadAll(h.home / "Transfer" / "testStandings.html");
   EXPECT_NE(standings.find(" <A HREF=\"testRosters.html#Team3\">Team3</A>         0   0   0   0   0    0   0   N/A"),
             std::string::npos);
   EXPECT_NE(ReadAll(h.home / "Transfer" / "testTeamStats.html").find("N/A"), std::string::npos);
 }
 
-// After game days the stored flags pick the groups: any non-zero flag counts,
-// and the tree page waits for the playoffs.
-TEST(Pages, AutoOutputWritesTheFlaggedGroups) {
+// At the end of a run of game days the stored flags pick the groups, written
+// once for the run: any non-zero flag counts, and the tree page waits for the
+// playoffs.
+TEST(Pages, AutoOutputWritesTheFlaggedGroupsOnceARun) {
   Published lg(SimLeague(4), 0);
   League& l = lg.h.state.league;
   l.CheckFlags.fill(0);
   l.CheckFlags[1] = 255;
   l.CheckFlags[14] = 1;
   l.OptAutoOutput = kTrue;
-  Games(lg.h.state).MultipleGames();
+  lg.h.ui.setFallback(Answer::Yes);
+  Games(lg.h.state).BulkGameButton(2);
+  int written = 0;
+  for (const auto& c : lg.h.ui.callsOf("progress")) written += c.text == "Creating Standings Page";
+  EXPECT_EQ(written, 1);
   std::set<std::string> pages;
   for (const std::string& f : lg.files())
     if (f.ends_with(".html") && !std::isdigit(static_cast<unsigned char>(f[4]))) pages.insert(f);
   EXPECT_EQ(pages, (std::set<std::string>{"testCoaches.html", "testFarmStandings.html", "testStandings.html",
-                                          "testTodayGames.html"}));
-  EXPECT_NE(lg.page("Standings.html").find(" 1   1   0   0   2"), std::string::npos);
+                                          "testTodayGames.html", "testindex.html", "index.html"}));
+  EXPECT_NE(lg.page("Standings.html").find(" 2   1   1   0   2"), std::string::npos);
 }
 
 }  // namespace
