@@ -4,7 +4,6 @@
 #include "console/league_view.h"
 #include "session.h"
 #include "util/error.h"
-#include "reports/page_files.h"
 #include "sim/exhibition.h"
 #include "sim/game_day.h"
 #include "sim/season_profile.h"
@@ -41,8 +40,6 @@ void PlayGames(Session& s, const PlayArgs& a) {
   Games games(s.state);
   if (!a.saveAs.empty()) games.playoffEnd.saveAs = NewLeagueFile(s, a.saveAs);
   if (a.restDay) return games.cmdHelp();
-  // Named before the run: after the final the league is saved under a new name.
-  const fs::path today = TransferFile(s.state, "TodayGames.html");
   const bool playoffs = s.state.league.InPlayoffs;
   bool ran = a.season ? games.Command5() : a.days ? games.BulkGameButton(*a.days) : games.MultipleGames();
   if (!ran) throw Refused("no games");
@@ -57,7 +54,7 @@ void PlayGames(Session& s, const PlayArgs& a) {
   if (games.StopRequested) text += "Stopped by the interrupt between game days.\n";
   if (games.champion >= 0) text += s.state.team(games.champion).Name.str() + " win the playoffs.\n";
   else if (games.IsSeasonOver) text += "The season is over.\n";
-  text += fmt::format("Box scores and the daily page: {}\n", today.string());
+  text += fmt::format("Box scores and the daily page: {}\n", games.dailyPage.string());
   if (games.champion >= 0 && !s.state.LeaguePath.empty())
     text += "The league is saved as " + s.state.LeaguePath + ".lge; the next command opens it.\n";
   s.ui.print(text);

@@ -93,10 +93,12 @@ struct SignArgs {
   std::string team, sign;
   std::optional<double> salary;
   std::optional<int> years;
+  bool output = false;
 };
 
 void RunFreeAgents(Session& s, const SignArgs& a) {
   FreeAgents form(s.state);
+  if (a.output) return s.ui.print("Written " + form.cmdOutput().string() + "\n");
   const std::vector<FreeAgentEntry> list = form.list();
   if (a.sign.empty()) {
     std::string text = "  No  Player                  Pos Age     Salary  OV\n";
@@ -120,12 +122,14 @@ void RegisterFreeAgents(CLI::App& app, Session& s) {
   auto a = std::make_shared<SignArgs>();
   CLI::App* cmd = AddCommand(app, s, "free-agents",
                              "List the free agents (UFA at UnresAge and older, else RFA); with TEAM --sign PLAYER, "
-                             "sign one at --salary and --years (asked when not given)",
+                             "sign one at --salary and --years (asked when not given); --output writes the "
+                             "FreeAgents.html page",
                              true, [&s, a] { RunFreeAgents(s, *a); });
   cmd->add_option("TEAM", a->team, "the team that signs");
   auto* sign = cmd->add_option("--sign", a->sign, "the free agent, by name or number in the list");
   cmd->add_option("--salary", a->salary, "salary in dollars, 0 to 99,999,999")->needs(sign);
   cmd->add_option("--years", a->years, "contract length, 1 to 10 years")->needs(sign);
+  cmd->add_flag("--output", a->output, "write the FreeAgents.html page")->excludes(sign);
 }
 
 void RegisterRandomContracts(CLI::App& app, Session& s) {

@@ -188,7 +188,8 @@ std::string DemoSummaryText(const LeagueState& s, const DemoSummary& d) {
          fmt::format("Next year:  {}.lge (the league open now)\n", d.nextPath) +
          fmt::format("Pages:      {} (box scores {}1.html and on, playoffs {}-R1-1.html and on, daily page "
                      "{}TodayGames.html)\n",
-                     (s.AppPath / "Transfer").string(), season, playoffs, playoffs);
+                     (s.AppPath / "Transfer").string(), season, playoffs, playoffs) +
+         fmt::format("Index:      {}\n", (s.AppPath / "Transfer" / "index.html").string());
 }
 
 }  // namespace kvl

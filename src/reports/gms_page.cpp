@@ -19,12 +19,12 @@ void WriteGMs(PageRun& run) {
   std::string all;
   for (int t = 0; t < s.numTeams(); ++t) {
     const Team& team = s.team(t);
-    const std::string mail = HtmlText(TeamEmail(s, t));
+    const std::string mail = TeamEmail(s, t);
     page.add(HtmlText(Pad(team.Name.str(), 16)) + HtmlText(Pad(team.Owner.str(), 26)) +
-             HtmlText(Pad(team.ICQ.str(), 17)) + (mail.empty() ? "" : "<A HREF=mailto:" + mail + ">" + mail + "</A>"));
+             HtmlText(Pad(team.ICQ.str(), 17)) + (mail.empty() ? "" : Link("mailto:" + mail, HtmlText(mail))));
     if (!mail.empty()) all += (all.empty() ? "" : ",") + mail;
   }
-  page.add("<BR><BR><A HREF=mailto:" + all + ">Email All GMs</A>");
+  page.add("<BR><BR>" + Link("mailto:" + all, "Email All GMs"));
   page.add("</PRE></HTML>");
   page.write();
 }

@@ -27,7 +27,7 @@ void HeaderEditor::cmdSave() {
     lines.push_back(line);
     start = end + 1;
   }
-  WritePage(caption, lines);
+  WriteLines(caption, lines);
 }
 
 }  // namespace kvl

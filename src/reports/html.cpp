@@ -1,5 +1,7 @@
 #include "reports/html.h"
 
+#include <cctype>
+
 #include "util/numbers.h"
 
 namespace kvl {
@@ -51,11 +53,32 @@ std::string RowUnder(std::string label, const std::vector<std::string>& values, 
 
 std::string CutLabel(std::string_view raw, std::size_t width) { return HtmlText(Pad(raw, width)); }
 
+std::string Quoted(std::string_view value) { return "\"" + HtmlText(value) + "\""; }
+
+std::string Link(std::string_view href, std::string_view shown) {
+  return "<A HREF=" + Quoted(href) + ">" + std::string(shown) + "</A>";
+}
+
 std::string TeamText(const LeagueState& s, int team) { return HtmlText(s.team(team).Name.str()); }
 
+std::string TeamAnchorName(const LeagueState& s, int team) {
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  std::string out;
+  for (char c : s.team(team).Name.str()) {
+    const auto b = static_cast<unsigned char>(c);
+    if (std::isalnum(b) && b < 0x80) out += c;
+    else if (c == '-' || c == '.' || c == '_' || c == '~') out += c;
+    else out += {'%', kHex[b >> 4], kHex[b & 15]};
+  }
+  return out;
+}
+
+std::string TeamHref(const LeagueState& s, int team, std::string_view file) {
+  return s.LeagueShort + std::string(file) + "#" + TeamAnchorName(s, team);
+}
+
 std::string TeamLink(const LeagueState& s, int team) {
-  const std::string name = TeamText(s, team);
-  return "<A HREF=" + s.LeagueShort + "Rosters.html#" + name + ">" + name + "</A>";
+  return Link(TeamHref(s, team, "Rosters.html"), TeamText(s, team));
 }
 
 std::string PaddedTeamLink(const LeagueState& s, int team, std::size_t width) {
@@ -63,10 +86,11 @@ std::string PaddedTeamLink(const LeagueState& s, int team, std::size_t width) {
   return TeamLink(s, team) + std::string(shown < width ? width - shown : 0, ' ');
 }
 
-std::string TeamAnchor(const LeagueState& s, int team) {
-  const std::string name = TeamText(s, team);
-  return "<H2><A NAME=" + name + ">" + name + "</A></H2>";
+std::string NamedTeam(const LeagueState& s, int team) {
+  return "<A NAME=" + Quoted(TeamAnchorName(s, team)) + ">" + TeamText(s, team) + "</A>";
 }
+
+std::string TeamAnchor(const LeagueState& s, int team) { return "<H2>" + NamedTeam(s, team) + "</H2>"; }
 
 std::string PlayerText(const Player& p) { return HtmlText(p.Name.str()); }
 

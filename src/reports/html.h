@@ -30,13 +30,27 @@ std::string RowUnder(std::string label, const std::vector<std::string>& values, 
 // A label of a row, cut to `width` so its values keep their columns, escaped.
 std::string CutLabel(std::string_view raw, std::size_t width);
 
+// An attribute's value, escaped and in double quotes, so that no text a
+// manager typed can end it or add an attribute behind it.
+std::string Quoted(std::string_view value);
+// "<A HREF="href">shown</A>"; `shown` is HTML already.
+std::string Link(std::string_view href, std::string_view shown);
+
 // A team's name, condensed and escaped.
 std::string TeamText(const LeagueState& s, int team);
-// "<A HREF=<league>Rosters.html#name>name</A>".
+// The name a team's section is anchored by: its condensed name with every
+// byte but letters, digits and "-._~" written as %XX, so a blank cannot
+// split it and two names never share one.
+std::string TeamAnchorName(const LeagueState& s, int team);
+// "<league><file>#<anchor>", the team's section of a per-team page.
+std::string TeamHref(const LeagueState& s, int team, std::string_view file);
+// The team's name linked to its roster.
 std::string TeamLink(const LeagueState& s, int team);
 // The link padded to `width` columns of its shown name.
 std::string PaddedTeamLink(const LeagueState& s, int team, std::size_t width);
-// The heading a per-team section starts with, the target of TeamLink.
+// "<A NAME="anchor">name</A>", the target of the team's links.
+std::string NamedTeam(const LeagueState& s, int team);
+// The heading a per-team section starts with.
 std::string TeamAnchor(const LeagueState& s, int team);
 // A player's name, condensed and escaped.
 std::string PlayerText(const Player& p);

@@ -98,7 +98,7 @@ std::vector<std::string> List(const LeagueState& s, const std::vector<RosterEntr
   out.push_back(columns);
   const std::vector<std::size_t> ends{CaptionEnds("                          GP")[0], columns.size() - 5};
   for (const RosterEntry& e : Ranked(all, c))
-    out.push_back(RowUnder(CutLabel(RookieMark(e.p) + NameAndTeam(s, e), ends[0] - 3), {NumText(e.p.GP), c.text(e.p)}, ends));
+    out.push_back(RowUnder(LeaderLabel(s, RookieMark(e.p), e, ends[0] - 3), {NumText(e.p.GP), c.text(e.p)}, ends));
   out.push_back("</PRE>");
   return out;
 }
@@ -123,7 +123,7 @@ void Top5(PageRun& run, const PageInfo& info, const char* columns, const std::ve
   const std::vector<std::size_t> valueEnds{ends[1], ends[2]};
   std::vector<RosterEntry> rows = Ranked(all, c);
   for (std::size_t i = 0; i < rows.size() && i < 5; ++i)
-    page.add(RowUnder(CutLabel(RookieMark(rows[i].p) + NameAndTeam(run.s, rows[i]), valueEnds[0] - 3),
+    page.add(RowUnder(LeaderLabel(run.s, RookieMark(rows[i].p), rows[i], valueEnds[0] - 3),
                       {NumText(rows[i].p.GP), c.text(rows[i].p)}, valueEnds));
   page.add("</PRE>");
   page.write();

@@ -47,8 +47,7 @@ void WriteInjury(PageRun& run) {
   const std::vector<std::string> texts = InjuryTexts(s);
   Page page(run, kInjury);
   ForEachLoadedTeam(s, [&](int team) {
-    const std::string name = TeamText(s, team);
-    page.add("<H3><A NAME=" + name + ">" + name + "</A></H3>");
+    page.add("<H3>" + NamedTeam(s, team) + "</H3>");
     bool any = false;
     for (int slot = 0; slot < kRosterSlots; ++slot) {
       const Player& p = s.player(0, slot);

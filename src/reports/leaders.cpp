@@ -26,7 +26,7 @@ double Gaa(int against, int minutes) { return minutes == 0 ? 255 : against / (mi
 
 // Cut where the games column begins, leaving room for three digits.
 std::string Label(const LeagueState& s, std::size_t place, const RosterEntry& e, const std::vector<std::size_t>& ends) {
-  return CutLabel(RookieMark(e.p) + NumText(static_cast<double>(place + 1)) + "." + NameAndTeam(s, e), ends[0] - 3);
+  return LeaderLabel(s, RookieMark(e.p) + NumText(static_cast<double>(place + 1)) + ".", e, ends[0] - 3);
 }
 
 std::string ShotPct(int goals, int shots) { return shots == 0 ? "0.0" : FormatNumber(100.0 * goals / shots, "###.0"); }

@@ -7,28 +7,32 @@ namespace kvl {
 
 const std::array<PageGroup, kPageGroups>& PageGroups() {
   static const std::array<PageGroup, kPageGroups> groups{{
-      {12, "teamstats", "Creating Team Stats Page", WriteTeamStats},
-      {1, "standings", "Creating Standings Page", WriteStandings},
-      {2, "rosters", "Creating Rosters Page", WriteRosters},
-      {3, "leaders", "Creating Leaderboard Page", WriteLeaders},
-      {4, "teamscoring", "Creating Team Scoring Page", WriteTeamScoring},
-      {5, "injury", "Creating Injury Report", WriteInjury},
-      {6, "finance", "Creating Financial Page", WriteFinance},
-      {7, "futures", "Creating Prospects Page", WriteFutures},
-      {8, "schedule", "Creating Schedule Page", WriteSchedule},
-      {9, "lines", "Creating Lines Page", WriteLines},
-      {10, "individual", "Creating Indiv. Leaders Page", WriteIndividual},
-      {11, "waivers", "Creating Waivers Page", WriteWaivers},
-      {13, "vitals", "Creating Player Vitals Page", WritePlayerVitals},
-      {14, "coaches", "Creating Coach Ratings Page", WriteCoaches},
+      {12, "teamstats", "Creating Team Stats Page", WriteTeamStats, {"TeamStats.html"}},
+      {1, "standings", "Creating Standings Page", WriteStandings,
+       {"StandingsTree.html", "Standings.html", "FarmStandings.html"}},
+      {2, "rosters", "Creating Rosters Page", WriteRosters, {"Rosters.html"}},
+      {3, "leaders", "Creating Leaderboard Page", WriteLeaders,
+       {"Leaders.html", "Top5Points.html", "FarmLeaders.html"}},
+      {4, "teamscoring", "Creating Team Scoring Page", WriteTeamScoring, {"TeamScoring.html"}},
+      {5, "injury", "Creating Injury Report", WriteInjury, {"Injury.html"}},
+      {6, "finance", "Creating Financial Page", WriteFinance, {"Finance.html"}},
+      {7, "futures", "Creating Prospects Page", WriteFutures, {"Futures.html"}},
+      {8, "schedule", "Creating Schedule Page", WriteSchedule, {"Schedule.html"}},
+      {9, "lines", "Creating Lines Page", WriteLines, {"Lines.html"}},
+      {10, "individual", "Creating Indiv. Leaders Page", WriteIndividual,
+       {"Individual.html", "Top5Goals.html", "Top5Assist.html"}},
+      {11, "waivers", "Creating Waivers Page", WriteWaivers, {"Waivers.html"}},
+      {13, "vitals", "Creating Player Vitals Page", WritePlayerVitals, {"PlayerVitals.html"}},
+      {14, "coaches", "Creating Coach Ratings Page", WriteCoaches, {"Coaches.html"}},
       {15, "transactions", "Creating Transactions Page",
        [](PageRun& run) {
          OutputTransactions(run);
          // The season's list is written by the transaction commands too; here
          // it keeps the published folder whole.
          OutputHistoricTransactions(run);
-       }},
-      {16, "gms", "Creating GM Page", WriteGMs},
+       },
+       {"Transact.html", "TransactSeason.html"}},
+      {16, "gms", "Creating GM Page", WriteGMs, {"GMs.html"}},
   }};
   return groups;
 }
@@ -54,6 +58,7 @@ int WritePageGroups(LeagueState& s, const PagePicks& picks, bool treeAlways) {
     g.write(run);
     ++step;
   }
+  WriteLeagueIndex(run);
   s.ui.progressDone();
   return run.pages;
 }

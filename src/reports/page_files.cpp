@@ -30,13 +30,19 @@ bool ReadPageLines(const fs::path& path, std::vector<std::string>& out) {
 
 // A page is written over in place: it holds nothing of the league that the
 // next publishing would not write again, and a season writes a thousand.
-void WritePage(const fs::path& path, const std::vector<std::string>& lines) {
+void WriteLines(const fs::path& path, const std::vector<std::string>& lines) {
   std::string page;
   for (const std::string& line : lines) page += line + "\r\n";
   fs::create_directories(path.parent_path());
   std::ofstream out(path, std::ios::binary | std::ios::trunc);
   out << page;
   if (!out.flush()) throw KvlError("cannot write " + path.string());
+}
+
+void WritePage(const fs::path& path, const std::vector<std::string>& lines) {
+  std::vector<std::string> page{kPageHead};
+  page.insert(page.end(), lines.begin(), lines.end());
+  WriteLines(path, page);
 }
 
 }  // namespace kvl

@@ -30,10 +30,17 @@ struct PageGroup {
   std::string_view name;  // its name on the command line
   const char* status;     // the progress text while it is written
   void (*write)(PageRun&);
+  // The pages it writes, behind the league prefix; the playoffs' schedule
+  // pages are named by round instead.
+  std::array<const char*, 3> files;
 };
 
 constexpr int kPageGroups = 16;
 // In the order of writing.
 const std::array<PageGroup, kPageGroups>& PageGroups();
+
+// Transfer/<league>index.html, linking every page the league has in
+// Transfer/, and Transfer/index.html, which points to it.
+void WriteLeagueIndex(PageRun& run);
 
 }  // namespace kvl

@@ -32,9 +32,18 @@ bool OutScores(const Player& a, const Player& row);
 // team's games, rounded; in the playoffs the round being played.
 int MinGoalieGP(const LeagueState& s);
 
+// The position, the thirteen ratings in record order and Overall, as the
+// player lists print them under "PO IT SP ... LD OV"; a goalie's 0 is a
+// rating that does not apply to him and shows "NA".
+std::vector<std::string> PositionAndRatings(const Player& p);
+
 // Mark, name and team for the leaders' rows: "*" for a rookie.
 std::string RookieMark(const Player& p);
-// "<name> (<team>)", not yet escaped.
-std::string NameAndTeam(const LeagueState& s, const RosterEntry& e);
+// "<name> (<team>)" in at most `width` characters, not yet escaped: a name too
+// long gives way to its short form, then is cut; the team stays whole.
+std::string NameAndTeam(const LeagueState& s, const RosterEntry& e, std::size_t width);
+// A leaders' row label: `lead` (the mark, the place), the name and the team,
+// padded to `width` and escaped.
+std::string LeaderLabel(const LeagueState& s, const std::string& lead, const RosterEntry& e, std::size_t width);
 
 }  // namespace kvl

@@ -31,9 +31,12 @@ std::string Injury(const Player& p) {
   }
 }
 
+// The hand is stored as its letter; a record without one shows none.
+std::string HandColumn(u8 hand) { return hand == 'L' ? "L  " : hand == 'R' ? "R  " : "   "; }
+
 std::string RosterRow(const Player& p) {
   std::string line = Fill(p.Num, 2) + " " + HtmlText(Pad(p.Name.str(), 22)) + " " +
-                     std::string(PosName[std::min<std::size_t>(p.Pos, 4)]) + " " + (p.Hand == 0 ? "L  " : "R  ");
+                     std::string(PosName[std::min<std::size_t>(p.Pos, 4)]) + " " + HandColumn(p.Hand);
   line += p.Condition == 100 ? "OK " : Pad(NumText(p.Condition), 3);
   line += Injury(p);
   for (int r : kShown) line += Pad(NumText(p.rating(r)), 3);
@@ -42,10 +45,7 @@ std::string RosterRow(const Player& p) {
 }
 
 std::string LinkBar(const LeagueState& s, int team) {
-  const std::string name = TeamText(s, team);
-  auto link = [&](const char* file, const char* caption) {
-    return "<A HREF=" + s.LeagueShort + file + "#" + name + ">" + caption + "</A>";
-  };
+  auto link = [&](const char* file, const char* caption) { return Link(TeamHref(s, team, file), caption); };
   return link("TeamScoring.html", "[Scoring]") + " " + link("Finance.html", "[Finances]") + " " +
          link("PlayerVitals.html", "[Player Vitals]") + " " + link("Lines.html", "[Lines]") + " " +
          link("Futures.html", "[Prospects]");
@@ -74,9 +74,8 @@ void WriteRosters(PageRun& run) {
   Page page(run, kRosters);
   ForEachLoadedTeam(s, [&](int t) {
     page.add(TeamAnchor(s, t));
-    std::string owner = HtmlText(s.team(t).Owner.str()), mail = TeamEmail(s, t);
-    page.add("General Manager: " + (mail.empty() ? owner + "<BR>" : "<A HREF=mailto:" + HtmlText(mail) + ">" + owner +
-                                                                         "</A><BR>"));
+    const std::string owner = HtmlText(s.team(t).Owner.str()), mail = TeamEmail(s, t);
+    page.add("General Manager: " + (mail.empty() ? owner : Link("mailto:" + mail, owner)) + "<BR>");
     page.add(LinkBar(s, t));
     page.add("<H3>Pro Roster</H3>");
     Table(s, true, page);

@@ -3,6 +3,7 @@
 #include "league/league_files.h"
 #include "reports/html.h"
 #include "reports/page_groups.h"
+#include "season/playoff_series.h"
 #include "season/schedule_file.h"
 #include "util/numbers.h"
 
@@ -26,9 +27,10 @@ std::string GameLine(const LeagueState& s, int n, const ScheduleRecord& r) {
   if (!r.Played) return num + "  " + away + " at " + home + "<BR>";
   // A game of a series that ended before it was needed.
   if (playoffs && r.AwayScore == 0 && r.HomeScore == 0) return "<strike>" + num + "</strike><BR>";
-  std::string file = playoffs ? "-R" + NumText(s.Playoff.PlayoffRound) + "-" + num : num;
-  return "<A HREF=" + s.LeagueShort + file + ".html>" + num + "  " + away + " " + NumText(r.AwayScore) + " at " +
-         home + " " + NumText(r.HomeScore) + "</A>" + Overtime(r.Overtime) + "<BR>";
+  std::string file = playoffs ? "-R" + NumText(ShownPlayoffRound(s)) + "-" + num : num;
+  return Link(s.LeagueShort + file + ".html",
+              num + "  " + away + " " + NumText(r.AwayScore) + " at " + home + " " + NumText(r.HomeScore)) +
+         Overtime(r.Overtime) + "<BR>";
 }
 
 }  // namespace
@@ -39,7 +41,7 @@ void WriteSchedule(PageRun& run) {
   const std::vector<ScheduleRecord> games = ReadSchedule(s.swap(swp::Schedule));
   const bool playoffs = s.league.InPlayoffs != 0;
   Page page(run, kSchedule,
-            playoffs ? "-Round" + NumText(s.Playoff.PlayoffRound) + "-Schedule.html" : std::string(kSchedule.file));
+            playoffs ? "-Round" + NumText(ShownPlayoffRound(s)) + "-Schedule.html" : std::string(kSchedule.file));
   const int deadlineGame = CInt(s.league.LeagueGames * s.league.TradeDeadline / 100.0);
   bool deadlineShown = s.league.Exhibition != 0 || playoffs;
   int day = 0;

@@ -125,12 +125,12 @@ void FarmStandingsPage(PageRun& run) {
   std::vector<StandingRow> rows = RankFarm(s);
   for (int c = 0; c < 2; ++c) {
     page.add("<BR><H3>" + HtmlText(s.league.Conf[static_cast<std::size_t>(c)].Name.str()) + " Conference</H3>");
-    page.add("<PRE>                  GP   W  L  T    P  GF  GA   PCT");
+    page.add("<PRE>                      GP   W  L  T    P  GF  GA   PCT");
     for (const StandingRow& r : Filter(s, rows, c, -1)) {
       const FarmTeam& f = s.Farm[static_cast<std::size_t>(r.team)];
-      std::string label = f.Name.str() + "(" + s.team(r.team).Abbrev.str() + ")";
-      label.resize(std::max<std::size_t>(label.size(), 16), ' ');
-      page.add(HtmlText(label) + Fill(r.GP, 4) + Fill(f.W, 4) + Fill(f.L, 3) + Fill(f.T, 3) + Fill(r.Points, 5) +
+      // The widest label: a 15-letter name and "(ABC)".
+      const std::string label = f.Name.str() + "(" + s.team(r.team).Abbrev.str() + ")";
+      page.add(CutLabel(label, 20) + Fill(r.GP, 4) + Fill(f.W, 4) + Fill(f.L, 3) + Fill(f.T, 3) + Fill(r.Points, 5) +
                Fill(f.GF, 4) + Fill(f.GA, 4) + Fill(Pct(r.Points, r.GP, 2), 6));
     }
     page.add("</PRE>");
@@ -146,21 +146,25 @@ std::string Matchup(const LeagueState& s, std::size_t i) {
   return side(p.SeriesHome[i], p.HomeWins[i]) + "<BR>" + side(p.SeriesAway[i], p.AwayWins[i]) + "<BR>";
 }
 
-// One column per round played so far; later rounds' cells are staggered down
-// by spacers so each matchup sits between the two it came from.
+// One column per round played so far, none before the playoffs; later
+// rounds' cells are staggered down by spacers so each matchup sits between
+// the two it came from.
 void TreePage(PageRun& run) {
   const LeagueState& s = run.s;
   Page page(run, kTree);
   page.add("<H2>Playoff Tree</H2>");
   page.add("<TABLE>");
-  const int rounds = std::max<int>(s.Playoff.PlayoffRound, 1);
+  const int rounds = ShownPlayoffRound(s);
+  if (rounds == 0) {
+    page.add("</TABLE>");
+    return page.write();
+  }
   std::string head = "<TR>";
   for (int r = 1; r <= rounds; ++r) head += "<TH WIDTH=150 ALIGN=left><PRE><B>Round " + NumText(r) + "</B></TH>";
   page.add(head + "</TR>");
   page.add("<TR>");
   for (int r = 1; r <= rounds; ++r) {
-    int stage = s.league.PlayoffSize + r - 1;
-    if (stage > 3) break;
+    const int stage = s.league.PlayoffSize + r - 1;
     std::string cell = "<TD VALIGN=top>";
     for (int k = 1; k < r; ++k) cell += "<PRE> <BR> <BR></PRE>";
     for (int i = 0; i < SeriesInStage(stage); ++i) {

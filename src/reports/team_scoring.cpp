@@ -1,7 +1,11 @@
-// Each team's scoring and goaltending, with the team's totals.
+// Each team's scoring and goaltending, with the team's totals; a player traded
+// this season has a row for each team he played for.
+#include "league/league_files.h"
 #include "reports/html.h"
+#include "reports/page_files.h"
 #include "reports/page_groups.h"
 #include "reports/player_lists.h"
+#include "transactions/trade_office.h"
 #include "util/numbers.h"
 
 namespace kvl {
@@ -29,6 +33,8 @@ struct SkaterSums {
     return {team,          NumText(GP), NumText(G),  NumText(A),  NumText(G + A), NumText(Plus), NumText(PIM),
             NumText(PP),   NumText(SH), NumText(GW), NumText(GT), NumText(HT),    NumText(S),    Pctg(G, S)};
   }
+  // A player's row ends with his running streaks; the totals line has none.
+  static std::vector<std::string> streaks(const Player& p) { return {NumText(p.GSStreak), NumText(p.PSStreak)}; }
 };
 
 struct GoalieSums {
@@ -45,9 +51,56 @@ struct GoalieSums {
     return {team, NumText(GP), NumText(MIN), avg, NumText(W), NumText(L), NumText(T), NumText(SO),
             NumText(GA), NumText(SA), pct, NumText(PIM), NumText(AS)};
   }
+  static std::vector<std::string> streaks(const Player&) { return {}; }
 };
 
-void Skaters(const LeagueState& s, int team, Page& page) {
+// A player's season with one team.
+struct Stint {
+  int team;
+  Player p;
+};
+
+// A traded player's rows: his career lines of the teams he left, as the
+// trade wrote them, then what remains of his season for his present team.
+std::vector<Stint> Stints(const Player& p, int team, const std::vector<CareerRecord>& career) {
+  std::vector<Stint> out;
+  Player present = p;
+  if (p.Traded)
+    for (const CareerRecord& line : career)
+      if (line.P.Name == p.Name && line.Team != team) {
+        out.push_back({line.Team, line.P});
+        AddFigures(present, line.P, -1);
+      }
+  out.push_back({team, present});
+  return out;
+}
+
+std::string Abbrev(const LeagueState& s, int team) {
+  return team < s.numTeams() ? HtmlText(s.team(team).Abbrev.str()) : "";
+}
+
+// Rows of the team's players, each stint under its team's tag; the totals
+// count the stints with this team.
+template <class Sums>
+Sums StintRows(const LeagueState& s, int team, const std::vector<RosterEntry>& players,
+               const std::vector<CareerRecord>& career, const std::vector<std::size_t>& ends, Page& page) {
+  Sums total;
+  for (const RosterEntry& e : players)
+    for (const Stint& st : Stints(e.p, team, career)) {
+      Sums one;
+      one.add(st.p);
+      std::vector<std::string> values = one.values(Abbrev(s, st.team));
+      // The streaks run on with the present team only.
+      if (st.team == team) {
+        total.add(st.p);
+        for (std::string& v : Sums::streaks(st.p)) values.push_back(std::move(v));
+      }
+      page.add(RowUnder(std::string(1, kPosLetter[e.p.Pos]) + " " + RookieMark(e.p) + PlayerText(e.p), values, ends));
+    }
+  return total;
+}
+
+void Skaters(const LeagueState& s, int team, const std::vector<CareerRecord>& career, Page& page) {
   std::vector<RosterEntry> skaters;
   for (int slot = 0; slot < kRosterSlots; ++slot) {
     const Player& p = s.player(0, slot);
@@ -56,37 +109,25 @@ void Skaters(const LeagueState& s, int team, Page& page) {
   // Ranked by points as the leaders are.
   skaters = RankPlayers(skaters, skaters.size(),
                         [](const RosterEntry& a, const RosterEntry& r) { return OutScores(a.p, r.p); });
-  const std::string abbrev = HtmlText(s.team(team).Abbrev.str());
   const auto ends = CaptionEnds(kSkaterColumns);
   page.add("SCORING");
   page.add(kSkaterColumns);
-  SkaterSums total;
-  for (const RosterEntry& e : skaters) {
-    SkaterSums one;
-    one.add(e.p);
-    total.add(e.p);
-    page.add(RowUnder(std::string(1, kPosLetter[e.p.Pos]) + " " + RookieMark(e.p) + PlayerText(e.p),
-                      one.values(abbrev), ends));
-  }
+  SkaterSums total = StintRows<SkaterSums>(s, team, skaters, career, ends, page);
   page.add(std::string(89, '-'));
   page.add(RowUnder(" Totals", total.values(""), ends));
   page.add("<BR><BR>");
 }
 
-void Goalies(const LeagueState& s, int team, Page& page) {
-  const std::string abbrev = HtmlText(s.team(team).Abbrev.str());
+void Goalies(const LeagueState& s, int team, const std::vector<CareerRecord>& career, Page& page) {
+  std::vector<RosterEntry> goalies;
+  for (int slot = 0; slot < kRosterSlots; ++slot) {
+    const Player& p = s.player(0, slot);
+    if (!p.empty() && p.Pos == kGoalie) goalies.push_back({team, p});
+  }
   const auto ends = CaptionEnds(kGoalieColumns);
   page.add("<BR>GOALTENDING");
   page.add(kGoalieColumns);
-  GoalieSums total;
-  for (int slot = 0; slot < kRosterSlots; ++slot) {
-    const Player& p = s.player(0, slot);
-    if (p.empty() || p.Pos != kGoalie) continue;
-    GoalieSums one;
-    one.add(p);
-    total.add(p);
-    page.add(RowUnder("G " + RookieMark(p) + PlayerText(p), one.values(abbrev), ends));
-  }
+  GoalieSums total = StintRows<GoalieSums>(s, team, goalies, career, ends, page);
   page.add(std::string(84, '-'));
   page.add(RowUnder(" TOT", total.values(""), ends));
   page.add("</PRE><BR>");
@@ -97,11 +138,12 @@ void Goalies(const LeagueState& s, int team, Page& page) {
 void WriteTeamScoring(PageRun& run) {
   LeagueState& s = run.s;
   Page page(run, kTeamScoring);
+  const std::vector<CareerRecord> career = ReadSwapRecords<CareerRecord>(s, swp::Career);
   ForEachLoadedTeam(s, [&](int team) {
     page.add(TeamAnchor(s, team));
     page.add("<PRE>");
-    Skaters(s, team, page);
-    Goalies(s, team, page);
+    Skaters(s, team, career, page);
+    Goalies(s, team, career, page);
   });
   page.write();
 }

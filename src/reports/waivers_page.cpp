@@ -2,6 +2,7 @@
 // waiver file holds no players, and the page says so.
 #include "league/league_files.h"
 #include "reports/html.h"
+#include "reports/page_files.h"
 #include "reports/page_groups.h"
 #include "util/dates.h"
 #include "util/record_file.h"
@@ -11,15 +12,6 @@ namespace kvl {
 namespace {
 
 const PageInfo kWaivers{"Waivers.html", " Waivers", 11, 20, "<H2>Waivers</H2>", true, ")</P><BR><BR>"};
-
-template <class R>
-std::vector<R> ReadSwapRecords(const LeagueState& s, const char* swap) {
-  std::vector<R> out;
-  if (!fs::exists(s.swap(swap))) return out;
-  RecordFile f(s.swap(swap), R::kSize);
-  for (std::size_t n = 1; n <= f.count(); ++n) out.push_back(f.template getRecord<R>(n));
-  return out;
-}
 
 std::string TeamOrNone(const LeagueState& s, int team, const char* none) {
   return team < s.numTeams() ? TeamText(s, team) : none;

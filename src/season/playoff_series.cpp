@@ -1,5 +1,7 @@
 #include "season/playoff_series.h"
 
+#include <algorithm>
+
 #include "league/league_files.h"
 #include "season/playoff_bracket.h"
 #include "util/record_file.h"
@@ -42,6 +44,10 @@ void StrikeDecidedGames(LeagueState& s, int stage) {
 
 int PlayoffStage(const LeagueState& s) { return s.league.PlayoffSize + s.Playoff.PlayoffRound - 1; }
 
+int ShownPlayoffRound(const LeagueState& s) {
+  return std::min<int>(s.Playoff.PlayoffRound, kFinalStage + 1 - s.league.PlayoffSize);
+}
+
 int SeriesInStage(int stage) { return 8 >> stage; }
 
 void SeriesWin(LeagueState& s, int winner, int loser) {
@@ -59,13 +65,14 @@ void SeriesWin(LeagueState& s, int winner, int loser) {
   }
 }
 
-PlayoffProgress EndPlayoffDay(LeagueState& s) {
+PlayoffProgress EndPlayoffDay(LeagueState& s, const std::function<void()>& roundOver) {
   const int stage = PlayoffStage(s);
   if (stage < 0 || stage > kFinalStage) return PlayoffProgress::RoundGoesOn;
   StrikeDecidedGames(s, stage);
   if (!StageDone(s, stage)) return PlayoffProgress::RoundGoesOn;
+  if (stage < kFinalStage && roundOver) roundOver();
   ++s.Playoff.PlayoffRound;
-  if (s.league.PlayoffSize + s.Playoff.PlayoffRound > 4) return PlayoffProgress::FinalDecided;
+  if (stage == kFinalStage) return PlayoffProgress::FinalDecided;
   NextRoundMatchups(s);
   CreatePlayoffSchedule(s);
   return PlayoffProgress::NewRound;

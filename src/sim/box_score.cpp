@@ -55,14 +55,18 @@ void GoalieLines(const Game& g, std::vector<std::string>& out) {
   }
 }
 
-// Pads to a 1-based column, as the old Tab() placed text.
+// Pads to a 1-based column, as the old Tab() placed text; text that already
+// reaches the column keeps one blank before the next value.
 void TabTo(std::string& line, std::size_t column) {
-  if (line.size() < column - 1) line.resize(column - 1, ' ');
+  line.resize(std::max(column - 1, line.size() + 1), ' ');
 }
 
-std::string PlayerRow(const Game& g, int sd, int slot) {
+}  // namespace
+
+// Set in the shown characters, then escaped: an entity does not move the columns.
+std::string PlayerStatsRow(const Game& g, int sd, int slot) {
   const GameSide& own = g.sideOf(sd);
-  std::string line = g.PlayerName(sd, slot);
+  std::string line = g.s.player(sd, slot).Name.str();
   int goals = own.PlayerGoals[slot], assists = own.PlayerAssists[slot], pm = own.PlusMinus[slot];
   TabTo(line, 23);
   line += NumText(goals);
@@ -86,8 +90,10 @@ std::string PlayerRow(const Game& g, int sd, int slot) {
   line += NumText(own.Hits[slot]);
   TabTo(line, 48);
   line += NumText(own.IceTime[slot] / 60);
-  return line;
+  return HtmlText(line);
 }
+
+namespace {
 
 void PlayerTable(const Game& g, std::vector<std::string>& out) {
   out.push_back("<BR><B>Player Statistics</B><P>");
@@ -100,7 +106,7 @@ void PlayerTable(const Game& g, std::vector<std::string>& out) {
     out.push_back(kPlayerHeading);
     out.push_back(std::string(49, '-'));
     for (int slot = 0; slot < kGameSlots; ++slot)
-      if (g.sideOf(sd).Status[slot] >= 0) out.push_back(PlayerRow(g, sd, slot));
+      if (g.sideOf(sd).Status[slot] >= 0) out.push_back(PlayerStatsRow(g, sd, slot));
   }
   out.push_back("</TR></TABLE>");
 }

@@ -36,6 +36,9 @@ std::vector<Star> PickStars(const Game& g);
 std::filesystem::path BoxScorePath(const LeagueState& s, const BoxScoreInfo& info);
 // The page, line by line.
 std::vector<std::string> BoxScoreLines(Game& g, const BoxScoreInfo& info);
+// A player's row of the player table, under
+// "                      G  A  P   +/- PIM  S  HT IT".
+std::string PlayerStatsRow(const Game& g, int sd, int slot);
 // Writes the page and, outside an exhibition, adds the stars' points to their
 // season totals. Returns the page's path.
 std::filesystem::path WriteBoxScore(Game& g, const BoxScoreInfo& info);

@@ -128,11 +128,14 @@ bool Games::PlayGameDay() {
   const bool finalDecided = l.InPlayoffs && EndPlayoffRound();
   // Read again: the playoffs may have struck games or begun a round.
   if (!IsSeasonOver) page.AddNextGames(ReadSchedule(s_.swap(swp::Schedule)));
-  page.Close();
+  dailyPage = page.Close();
   RestTeams(played);
   WaiversDay(s_);
-  if (l.OptAutoOutput) AutoHTMLOutput(s_);
   ++daysPlayed;
+  pagesDue_ = true;
+  // A run publishes once, at its end; the final ends every run, and its pages
+  // go out before the re-rate saves the league under another name.
+  if (!IsBatchRunning || finalDecided) PublishPages();
   // The champion is told, and the re-rate and its save run, once the day is whole.
   if (finalDecided) {
     champion = PlayoffChampion(s_);
@@ -141,10 +144,18 @@ bool Games::PlayGameDay() {
   return true;
 }
 
+void Games::PublishPages() {
+  if (pagesDue_ && s_.league.OptAutoOutput) AutoHTMLOutput(s_);
+  pagesDue_ = false;
+}
+
 // A finished round writes the next one's schedule, and play goes on; true
-// when the final is decided.
+// when the final is decided. The finished round's schedule page goes out
+// before its schedule is replaced.
 bool Games::EndPlayoffRound() {
-  switch (EndPlayoffDay(s_)) {
+  switch (EndPlayoffDay(s_, [this] {
+    if (s_.league.OptAutoOutput) AutoRoundOutput(s_);
+  })) {
     case PlayoffProgress::NewRound:
       IsSeasonOver = false;
       return false;
@@ -220,6 +231,7 @@ bool Games::RunDays(int days) {
     RefreshGameList();
   }
   s_.ui.progressDone();
+  PublishPages();
   IsBatchRunning = false;
   return true;
 }

@@ -1,8 +1,8 @@
 #pragma once
 // The Games console: plays what the schedule says, one game day at a time. A
 // day is the run of records from the first unplayed one until a team would
-// play twice; after it the teams that did not play rest, the waivers day runs
-// and the pages may be published.
+// play twice; after it the teams that did not play rest and the waivers day
+// runs. The league's pages may be published at the end of a run of days.
 #include <array>
 #include <chrono>
 #include <functional>
@@ -54,6 +54,7 @@ class Games {
   // Called after each game of the schedule with its number, for a report
   // that follows the season game by game.
   std::function<void(Game&, int)> onGame;
+  fs::path dailyPage;  // the last daily results page written
 
  private:
   bool RefuseWithoutSchedule();
@@ -62,11 +63,14 @@ class Games {
   void RestTeams(const std::array<bool, kMaxTeams>& played);
   bool EndPlayoffRound();
   bool RunDays(int days);
+  // The automatic output of the league's pages, once for the days played.
+  void PublishPages();
   void ShowProgress(int day, int days);
 
   LeagueState& s_;
   std::chrono::steady_clock::time_point runStart_;
   int runStartGames_ = 0;
+  bool pagesDue_ = false;
 };
 
 }  // namespace kvl

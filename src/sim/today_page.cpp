@@ -27,8 +27,9 @@ void TodayPage::AddGame(int number, const ScheduleRecord& r, bool overtime) {
   const std::string away = Name(s_, r.AwayTeam), home = Name(s_, r.HomeTeam);
   const std::string n = NumText(number);
   if (!s_.league.InPlayoffs) {
-    lines_.push_back("<A HREF=" + s_.LeagueShort + n + ".html>" + n + "  " + away + " " + NumText(r.AwayScore) + " " +
-                     home + " " + NumText(r.HomeScore) + "</A><BR>");
+    lines_.push_back(Link(s_.LeagueShort + n + ".html",
+                          n + "  " + away + " " + NumText(r.AwayScore) + " " + home + " " + NumText(r.HomeScore)) +
+                     "<BR>");
     return;
   }
   // A game left over when its series ended is struck out.
@@ -36,9 +37,10 @@ void TodayPage::AddGame(int number, const ScheduleRecord& r, bool overtime) {
     lines_.push_back(n + "<strike>" + "  " + away + " at " + home + "</strike><BR>");
     return;
   }
-  lines_.push_back("<A HREF=" + s_.LeagueShort + "-R" + NumText(s_.Playoff.PlayoffRound) + "-" + n + ".html>" + n +
-                   "  " + away + " " + NumText(r.AwayScore) + " " + home + " " + NumText(r.HomeScore) +
-                   (overtime ? " OT" : "") + "</A><BR>");
+  lines_.push_back(Link(s_.LeagueShort + "-R" + NumText(s_.Playoff.PlayoffRound) + "-" + n + ".html",
+                        n + "  " + away + " " + NumText(r.AwayScore) + " " + home + " " + NumText(r.HomeScore) +
+                            (overtime ? " OT" : "")) +
+                   "<BR>");
 }
 
 void TodayPage::AddNextGames(const std::vector<ScheduleRecord>& games) {
@@ -55,9 +57,11 @@ void TodayPage::AddNextGames(const std::vector<ScheduleRecord>& games) {
   }
 }
 
-void TodayPage::Close() {
+fs::path TodayPage::Close() {
   if (!ReadPageLines(FooterFile(s_, 0), lines_)) lines_.push_back("</BODY></HTML>");
-  WritePage(TransferFile(s_, "TodayGames.html"), lines_);
+  fs::path path = TransferFile(s_, "TodayGames.html");
+  WritePage(path, lines_);
+  return path;
 }
 
 }  // namespace kvl

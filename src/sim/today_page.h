@@ -20,8 +20,8 @@ class TodayPage {
   // The games from the first unplayed one while both teams are free, at most
   // 31 of them.
   void AddNextGames(const std::vector<ScheduleRecord>& games);
-  // The footer file or the default end; writes the page.
-  void Close();
+  // The footer file or the default end; writes the page and returns its path.
+  fs::path Close();
 
   const std::vector<std::string>& lines() const { return lines_; }
 

@@ -6,6 +6,7 @@
 #include "league/tables.h"
 #include "reports/html.h"
 #include "reports/page_files.h"
+#include "reports/player_lists.h"
 #include "transactions/expansion_draft.h"
 #include "ui/ui.h"
 #include "util/numbers.h"
@@ -17,14 +18,9 @@ namespace {
 constexpr const char* kColumns =
     "<PRE>Player                 AG CO     SALARY  PO IT SP ST EN DU DI SK PA PC DF SC EX LD OV";
 
-// A goalie's rating of 0 is one that does not apply to him.
-std::string RatingText(const Player& p, int value) { return p.Pos == kGoalie && value == 0 ? "NA" : NumText(value); }
-
 std::string UnprotectedRow(const Player& p, const std::vector<std::size_t>& ends) {
-  std::vector<std::string> values{NumText(p.Age), NumText(p.Contract), FormatNumber(p.Salary, "#,000"),
-                                  Trim(PosName[std::min<std::size_t>(p.Pos, 4)])};
-  for (int r = kInt; r <= kLdr; ++r) values.push_back(RatingText(p, p.rating(r)));
-  values.push_back(RatingText(p, Overall(p)));
+  std::vector<std::string> values{NumText(p.Age), NumText(p.Contract), FormatNumber(p.Salary, "#,000")};
+  for (std::string& v : PositionAndRatings(p)) values.push_back(std::move(v));
   return RowUnder(CutLabel(p.Name.str(), 22), values, ends);
 }
 

@@ -5,7 +5,10 @@
 #include "league/league_files.h"
 #include "league/ratings.h"
 #include "league/transaction_log.h"
+#include "league/tables.h"
 #include "reports/html.h"
+#include "reports/page_files.h"
+#include "reports/player_lists.h"
 #include "transactions/database_players.h"
 #include "ui/ui.h"
 #include "util/fixed_text.h"
@@ -96,6 +99,35 @@ bool FreeAgents::cmdAdd(int team, int record, const ContractTerms& terms) {
   SaveTeam(s_, team, 0);
   s_.Dirty = true;
   return true;
+}
+
+fs::path FreeAgents::cmdOutput() {
+  constexpr const char* kColumns =
+      "<PRE>Player                 AG   ST      SALARY  PO IT SP ST EN DU DI SK PA PC DF SC EX LD OV";
+  const std::string prefix = HtmlText(s_.LeagueShort);
+  std::vector<std::string> page{"<HTML>", "<TITLE>" + prefix + " Free Agents</TITLE>",
+                                "<H1>" + prefix + " Free Agents</H1>"};
+  std::vector<std::size_t> ends = CaptionEnds(kColumns);
+  ends.erase(ends.begin());  // the name is the row's label
+  const std::vector<DbRecord> db = ReadDatabase(s_);
+  const std::vector<FreeAgentEntry> agents = list();
+  for (std::size_t pos = 0; pos < PosPlural.size(); ++pos) {
+    page.push_back("<H3>" + std::string(PosPlural[pos]) + "</H3>");
+    page.push_back(kColumns);
+    for (const FreeAgentEntry& e : agents) {
+      const Player& p = db[static_cast<std::size_t>(e.record - 1)].P;
+      if (p.Pos != pos) continue;
+      std::vector<std::string> values{NumText(p.Age), e.unrestricted ? "UFA" : "RFA", FormatNumber(p.Salary, "#,000")};
+      for (std::string& v : PositionAndRatings(p)) values.push_back(std::move(v));
+      page.push_back(RowUnder(CutLabel(p.Name.str(), 22), values, ends));
+    }
+    page.push_back("</PRE>");
+  }
+  page.push_back("</HTML>");
+  fs::path path = TransferFile(s_, "FreeAgents.html");
+  WritePage(path, page);
+  s_.ui.tell("Output Complete", "Free Agents Outputted");
+  return path;
 }
 
 bool RandomContracts(LeagueState& s) {

@@ -35,6 +35,9 @@ class FreeAgents {
   // Signs database record `record` for `team`. False when refused or an
   // answer was left empty.
   bool cmdAdd(int team, int record, const ContractTerms& terms = {});
+  // Writes Transfer/<league>FreeAgents.html, the free agents by position, and
+  // tells so; returns its path.
+  fs::path cmdOutput();
 
  private:
   std::optional<double> AskSalary(const std::string& shortName, std::optional<double> given);

@@ -80,6 +80,9 @@ class TradeOffice {
   std::array<DraftPickRecord, 2> picks_{};
 };
 
+// Adds the season counters a career line carries; `sign` -1 takes them off.
+void AddFigures(Player& to, const Player& from, int sign);
+
 // Settles a player's season line for `team` in the career file before he
 // leaves it: what his career lines do not yet hold goes to his line there.
 void TradeSplit(LeagueState& s, const Player& p, int team);

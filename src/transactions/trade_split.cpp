@@ -13,7 +13,8 @@ void AddField(T& to, T from, int sign) {
   to = static_cast<T>(to + sign * from);
 }
 
-// The season counters a career line carries; `sign` -1 takes them off.
+}  // namespace
+
 void AddFigures(Player& to, const Player& from, int sign) {
   AddField(to.GP, from.GP, sign); AddField(to.G, from.G, sign); AddField(to.A, from.A, sign);
   AddField(to.Plus, from.Plus, sign); AddField(to.PIM, from.PIM, sign); AddField(to.Shots, from.Shots, sign);
@@ -21,8 +22,6 @@ void AddFigures(Player& to, const Player& from, int sign) {
   AddField(to.GT, from.GT, sign); AddField(to.Hits, from.Hits, sign);
   AddField(to.FarmStatC, from.FarmStatC, sign); AddField(to.FarmStatD, from.FarmStatD, sign);
 }
-
-}  // namespace
 
 void TradeSplit(LeagueState& s, const Player& p, int team) {
   RecordFile f(s.swap(swp::Career), CareerRecord::kSize);

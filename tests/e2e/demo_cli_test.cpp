@@ -7,6 +7,7 @@
 #include "support/golden.h"
 #include "support/kvl_test.h"
 #include "support/league_cli.h"
+#include "support/page_markup.h"
 #include "transactions/draft_list.h"
 #include "transactions/draft_picks.h"
 
@@ -82,6 +83,14 @@ TEST(DemoCli, ATradeShowsEverywhereAndSavesAsItLoads) {
   const Snapshot saved = lg.files();
   lg.kvl({"--yes", "save"});
   EXPECT_EQ(Differences(saved, lg.files()), std::vector<std::string>{});
+  // On the team scoring page his season is split: the line of the team he left, then his new team's.
+  lg.kvl({"output-html", "--pages", "teamscoring"});
+  std::istringstream scoring(ReadAll(lg.home / "Transfer" / "DemoNextTeamScoring.html"));
+  std::string rows;
+  for (std::string row; std::getline(scoring, row);)
+    if (row.find(line.P.Name.str()) != std::string::npos) rows += row + "\n";
+  EXPECT_EQ(std::count(rows.begin(), rows.end(), '\n'), 2) << rows;
+  lg.note("his rows on the team scoring page:\n" + rows);
   lg.expectTranscript(__FILE__, "trade.txt");
 }
 
@@ -148,9 +157,40 @@ TEST(DemoCli, AnEntryDraftThenAnExpansionTeamStockedAndScheduled) {
               {"--yes", "align", "expansion", "Newport"},
               {"--yes", "make-schedule"},  // an empty expansion team
               {"--yes", "expansion-draft", "--auto", "--output"},
-              {"--yes", "make-schedule"}});
+              {"--yes", "make-schedule"},
+              {"free-agents", "--output"},
+              {"output-html"}});
   EXPECT_TRUE(fs::exists(lg.home / "Transfer" / "DemoReratedExpansionDraft.html"));
+  const std::string index = ReadAll(lg.home / "Transfer" / "DemoReratedindex.html");
+  for (const char* page : {"EntryDraft.html", "ExpansionDraft.html", "FreeAgents.html"})
+    EXPECT_NE(index.find(std::string("\"DemoRerated") + page + "\""), std::string::npos) << page;
+  EXPECT_EQ(DeadLinks(lg.home / "Transfer"), std::vector<std::string>{});
   lg.expectTranscript(__FILE__, "drafts.txt");
+}
+
+// The season and its playoffs as published: a schedule page for each round
+// and none past the final, a tree of the rounds played, every page linked from
+// its league's index, and every link leading to a page written.
+TEST(DemoCli, ThePublishedSeasonAndPlayoffsLinkUp) {
+  const fs::path transfer = DemoHome() / "Transfer";
+  EXPECT_EQ(DeadLinks(transfer), std::vector<std::string>{});
+  // Eight teams send four a conference: three rounds.
+  for (int r = 1; r <= 4; ++r)
+    EXPECT_EQ(fs::exists(transfer / fmt::format("DemoPLF-Round{}-Schedule.html", r)), r <= 3) << "round " << r;
+  const std::string tree = ReadAll(transfer / "DemoPLFStandingsTree.html");
+  EXPECT_NE(tree.find("Round 3"), std::string::npos);
+  EXPECT_EQ(tree.find("Round 4"), std::string::npos);
+  EXPECT_EQ(ReadAll(transfer / "DemoStandingsTree.html").find("Round"), std::string::npos);  // before the playoffs
+  for (const char* league : {"DemoPLF", "Demo"}) {
+    const std::vector<std::string> linked = AttributeValues(ReadAll(transfer / (league + std::string("index.html"))), "HREF");
+    for (const auto& e : fs::directory_iterator(transfer)) {
+      const std::string name = e.path().filename().string();
+      const bool ofLeague = name.starts_with(league) && (league != std::string("Demo") || !name.starts_with("DemoPLF"));
+      if (!ofLeague || !name.ends_with(".html") || name == league + std::string("index.html")) continue;
+      EXPECT_NE(std::find(linked.begin(), linked.end(), name), linked.end()) << name << " is not in the index";
+    }
+  }
+  EXPECT_EQ(AttributeValues(ReadAll(transfer / "index.html"), "HREF"), std::vector<std::string>{"DemoPLFindex.html"});
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 // the order of the leaders' tables, and what a roster costs.
 #include <gtest/gtest.h>
 
+#include "reports/html.h"
 #include "reports/payroll.h"
 #include "reports/player_lists.h"
 #include "reports/standings_rank.h"
@@ -173,9 +174,11 @@ TEST(Leaders, MinGoalieGP) {
     bool playoffs;
     int round, minimum;
   };
-  // Four tenths of the average team's games, rounded half up; the round in the playoffs.
+  // Four tenths of the average team's games, rounded half up; the round in the
+  // playoffs, and the final's once it is decided (round 5 of a top 16).
   const std::vector<Case> cases{{4, 0, false, 0, 0},     {4, 2, false, 0, 0},   {4, 4, false, 0, 1},
-                                {24, 792, false, 0, 26}, {24, 30, false, 0, 1}, {24, 792, true, 3, 3}};
+                                {24, 792, false, 0, 26}, {24, 30, false, 0, 1}, {24, 792, true, 3, 3},
+                                {24, 792, true, 5, 4}};
   for (const Case& c : cases) {
     Harness h;
     h.state.league.NumTeams = static_cast<u8>(c.teams);
@@ -184,6 +187,36 @@ TEST(Leaders, MinGoalieGP) {
     h.state.Playoff.PlayoffRound = static_cast<u8>(c.round);
     EXPECT_EQ(MinGoalieGP(h.state), c.minimum) << c.teams << " teams, " << c.gamesPlayed << " games";
   }
+}
+
+// A value is right-aligned in its column and keeps its right-hand part when too
+// wide; a label is cut to its width, the team of a leader's row kept whole; a
+// team's anchor keeps its blanks and quotes from splitting it.
+TEST(Columns, ValuesLabelsAndAnchorsKeepTheirShape) {
+  Harness h;
+  h.state.league.NumTeams = 2;
+  h.state.LeagueShort = "test";
+  h.state.Teams[0].Name.set("Glaciers");
+  h.state.Teams[1].Name.set("New \"York");
+  auto leader = [&](const std::string& name, std::size_t width) {
+    return LeaderLabel(h.state, " 1.", Scorer(1, 1, 0, name), width);
+  };
+  struct Case {
+    const char* rule;
+    std::string got, expected;
+  } cases[] = {
+      {"right-aligned", Fill("7", 3), "  7"},
+      {"too wide: the leading digits go", Fill("1234", 3), "234"},
+      {"a label padded, then escaped", CutLabel("Farm&Co(ABC)", 14), "Farm&amp;Co(ABC)  "},
+      {"a label cut", CutLabel("Farmington Hills(ABC)", 20), "Farmington Hills(ABC"},
+      {"name and team fit", leader("Al Bo", 24), " 1.Al Bo (Glaciers)     "},
+      {"a long name gives way to its short form", leader("Maximilian Kowalski", 25), " 1.M. Kowalski (Glaciers)"},
+      {"then it is cut", leader("Maximilian Kowalczykowski", 25), " 1.M. Kowalczy (Glaciers)"},
+      {"a quoted value", Quoted("a\" b=c"), "\"a&quot; b=c\""},
+      {"an anchor without blanks or quotes", TeamAnchorName(h.state, 1), "New%20%22York"},
+      {"link and anchor agree", TeamLink(h.state, 1), "<A HREF=\"testRosters.html#New%20%22York\">New &quot;York</A>"},
+  };
+  for (const Case& c : cases) EXPECT_EQ(c.got, c.expected) << c.rule;
 }
 
 TEST(Payroll, WhoIsPaidAndHowMuch) {

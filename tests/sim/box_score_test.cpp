@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "reports/page_files.h"
 #include "sim/exhibition.h"
 #include "support/golden.h"
 #include "support/kvl_test.h"
@@ -50,7 +51,7 @@ TEST_F(SeededGame, SeasonPageCarriesTheMoneyAndStarPointsGoToTheSeason) {
   expected.insert(notes, {"<BR><B>Financial</B><P>", "Attendance: 15000<BR>", "Net Profit: $600,000.00<BR>"});
   expected.back() = "<P>The end</P>";
   expected.push_back("</BODY></HTML>");
-  EXPECT_EQ(ReadAll(f.h.home / "Transfer" / "test3.html"), Page(expected));
+  EXPECT_EQ(ReadAll(f.h.home / "Transfer" / "test3.html"), std::string(kPageHead) + "\r\n" + Page(expected));
   for (const Star& st : PickStars(game)) EXPECT_EQ(f.h.state.player(st.side, st.slot).StarPoints, CInt(st.points));
 }
 
@@ -72,6 +73,32 @@ TEST(BoxScoreName, TeamPairedWithItselfWritesEmptyTables) {
   EXPECT_NE(page.find("<TR><TD>Team2</TD><TD WIDTH=25 ALIGN=right>0</TD>"), std::string::npos);
   EXPECT_EQ(page.find("saves out of"), std::string::npos);
   EXPECT_EQ(page.find("1- "), std::string::npos);
+}
+
+using PlayerTable = SeatedGame;
+
+// Values keep their columns and one blank between them, counted in the
+// characters shown.
+TEST_F(PlayerTable, RowsKeepTheirColumns) {
+  struct Case {
+    const char* what;
+    std::string name;
+    int goals, plus, pim;
+    std::string row;
+  } cases[] = {
+      {"plain", "Al Bo", 1, 2, 4, "Al Bo                 1  0  1    +2 4    0  0  0"},
+      {"even", "Al Bo", 0, 0, 12, "Al Bo                 0  0  0  Even 12   0  0  0"},
+      {"-10 and no minutes", "Al Bo", 0, -10, 0, "Al Bo                 0  0  0    -10 0   0  0  0"},
+      {"an escaped name", "A&B <C>", 0, 0, 0, "A&amp;B &lt;C&gt;               0  0  0  Even 0    0  0  0"},
+      {"a name filling its column", "Abcdefghij Klmnopqrstu", 0, 0, 0, "Abcdefghij Klmnopqrstu 0 0  0  Even 0    0  0  0"},
+  };
+  for (const Case& c : cases) {
+    f.h.state.player(0, 0).Name.set(c.name);
+    GameSide& s = f.side(0);
+    s.PlayerGoals[0] = c.goals, s.PlusMinus[0] = static_cast<i16>(c.plus), s.PIM[0] = c.pim;
+    s.PlayerAssists[0] = s.PlayerShots[0] = s.Hits[0] = s.IceTime[0] = 0;
+    EXPECT_EQ(PlayerStatsRow(g, 0, 0), c.row) << c.what;
+  }
 }
 
 using Stars = SeatedGame;
