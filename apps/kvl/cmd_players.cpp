@@ -12,6 +12,7 @@
 #include "session.h"
 #include "team/youth_form.h"
 #include "util/cp1252.h"
+#include "util/fixed_text.h"
 #include "util/error.h"
 #include "util/numbers.h"
 
@@ -24,6 +25,8 @@ namespace {
 struct ProspectArgs {
   std::string team;
   std::vector<std::string> add, del;
+  std::string pos = "C";
+  ProspectTerms terms;
   std::optional<std::string> activate, manual;
   std::optional<int> record;
 };
@@ -33,6 +36,12 @@ int ProspectEntry(Session& s, const ViewProspects& v, const std::string& arg) {
   for (int e : v.entries())
     if (arg == NumText(e + 1) || Utf8ToCp1252(arg) == v.list().Name[static_cast<std::size_t>(e)].str()) return e;
   RefuseWith(s, "The prospect list has no entry \"" + arg + "\".", "View Prospects");
+}
+
+int PositionArg(Session& s, const std::string& arg) {
+  for (int pos = 0; pos < 5; ++pos)
+    if (Utf8ToCp1252(arg) == Trim(std::string(PosName[static_cast<std::size_t>(pos)]))) return pos;
+  RefuseWith(s, "A position is C, LW, RW, D or G, not \"" + arg + "\".", "Add Prospect");
 }
 
 void Activate(Session& s, ViewProspects& v, const ProspectArgs& a) {
@@ -65,8 +74,10 @@ std::string ProspectsText(const Session& s, const ViewProspects& v, int team) {
 void RunViewProspects(Session& s, const ProspectArgs& a) {
   const int team = ResolveTeam(s.state, a.team);
   ViewProspects v(s.state, team);
+  ProspectTerms terms = a.terms;
+  terms.pos = PositionArg(s, a.pos);
   for (const auto& name : a.add)
-    if (v.cmdAdd(name) < 0) throw Refused("no room");
+    if (v.cmdAdd(name, terms) < 0) throw Refused("no room");
   for (const auto& entry : a.del) v.cmdDelete(ProspectEntry(s, v, entry));
   if (a.activate) Activate(s, v, a);
   s.ui.print(ProspectsText(s, v, team));
@@ -79,6 +90,11 @@ void RegisterViewProspects(CLI::App& app, Session& s) {
                  true, [&s, a] { RunViewProspects(s, *a); });
   cmd->add_option("TEAM", a->team, "team number or name")->required();
   cmd->add_option("--add", a->add, "add a prospect of this name");
+  cmd->add_option("--pos", a->pos, "with --add: his position, C LW RW D or G (default C)");
+  cmd->add_option("--age", a->terms.age, "with --add: his age (default 18)")->check(CLI::Range(15, 45));
+  cmd->add_option("--contract", a->terms.contract, "with --add: contract years (default 3)")->check(CLI::Range(0, 10));
+  cmd->add_option("--salary", a->terms.salary, "with --add: salary in dollars (default 500000)")
+      ->check(CLI::Range(0, 3276700));
   cmd->add_option("--delete", a->del, "delete the prospect of this list number or name");
   cmd->add_option("--activate", a->activate, "bring the prospect of this list number or name onto the roster");
   cmd->add_option("--record", a->record, "with --activate: the free database record (from 1) to take him from");

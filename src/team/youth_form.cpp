@@ -30,7 +30,7 @@ std::vector<int> ViewProspects::entries() const {
   return out;
 }
 
-int ViewProspects::cmdAdd(std::optional<std::string> name) {
+int ViewProspects::cmdAdd(std::optional<std::string> name, const ProspectTerms& terms) {
   int free = -1;
   for (int i = 0; i < kMaxProspects && free < 0; ++i)
     if (list().Name[At(i)].empty()) free = i;
@@ -40,7 +40,12 @@ int ViewProspects::cmdAdd(std::optional<std::string> name) {
   }
   if (!name) name = s_.ui.prompt("Name of prospect", "Add Prospect", "");
   if (!name || name->empty()) return -1;
-  s_.Prospects[0].Name[At(free)].set(Utf8ToCp1252(*name));
+  ProspectList& l = s_.Prospects[0];
+  l.Name[At(free)].set(Utf8ToCp1252(*name));
+  l.Pos[At(free)] = static_cast<u8>(terms.pos);
+  l.Age[At(free)] = static_cast<u8>(terms.age);
+  l.Contract[At(free)] = static_cast<u8>(terms.contract);
+  l.Salary[At(free)] = static_cast<i16>(terms.salary / 100);
   SaveTeam(s_, team_, 0);
   s_.Dirty = true;
   return free;
@@ -56,11 +61,20 @@ FindMatch ViewProspects::cmdActivate(int entry) { return FindMatch(s_, team_, en
 
 FindMatch::FindMatch(LeagueState& s, int team, int entry) : s_(s), team_(team), entry_(entry), db_(ReadDatabase(s)) {
   const auto& name = s.Prospects[0].Name[At(entry)];
+  // A drafted prospect's record is marked used (he is no free agent) while
+  // no roster holds him: it is his own to be activated from.
+  // A free record of his name comes first.
+  const bool held = OnAnyRoster(s, name);
+  std::optional<int> drafted;
   for (std::size_t n = 0; n < db_.size(); ++n) {
-    if (db_[n].DbFlag != 0) continue;
+    const bool his = db_[n].P.Name == name && !name.empty();
+    const bool used = db_[n].DbFlag != 0;
+    if (used && (held || !his)) continue;
     Records.push_back(static_cast<int>(n + 1));
-    if (!Matched && db_[n].P.Name == name) Matched = static_cast<int>(n + 1);
+    std::optional<int>& match = used ? drafted : Matched;
+    if (!match && his) match = static_cast<int>(n + 1);
   }
+  if (!Matched) Matched = drafted;
 }
 
 std::string FindMatch::status() const { return Matched ? "Name has been matched" : "No match has been found"; }

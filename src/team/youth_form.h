@@ -12,6 +12,15 @@ namespace kvl {
 
 class FindMatch;
 
+// What a prospect added by hand is signed for: a junior's age and an entry
+// contract unless the commissioner says otherwise.
+struct ProspectTerms {
+  int pos = 0;            // C
+  int age = 18;
+  int contract = 3;       // years
+  int salary = 500000;    // dollars; the list keeps hundreds
+};
+
 class ViewProspects {
  public:
   // Loads `team` into side 0 as CurTeam.
@@ -21,7 +30,7 @@ class ViewProspects {
   // The entries with a name, in list order.
   std::vector<int> entries() const;
   // Prompts for the name unless given; the entry used, or -1.
-  int cmdAdd(std::optional<std::string> name = std::nullopt);
+  int cmdAdd(std::optional<std::string> name = std::nullopt, const ProspectTerms& terms = {});
   void cmdDelete(int entry);
   // Opens FindMatch on the entry.
   FindMatch cmdActivate(int entry);
@@ -35,7 +44,8 @@ class FindMatch {
  public:
   FindMatch(LeagueState& s, int team, int entry);
 
-  // Database records (from 1) whose used mark is clear.
+  // Database records (from 1) whose used mark is clear, and the prospect's
+  // own record when the draft marked it used for this list.
   const std::vector<int>& records() const { return Records; }
   // The first of them with the prospect's name.
   std::optional<int> matched() const { return Matched; }

@@ -15,6 +15,13 @@ std::vector<DbRecord> ReadDatabase(const LeagueState& s) {
   return out;
 }
 
+bool OnAnyRoster(const LeagueState& s, const FixedText<22>& name) {
+  const Bytes all = ReadFileBytes(s.swap(swp::Roster));
+  for (std::size_t at = 0; at + Player::kSize <= all.size(); at += Player::kSize)
+    if (DecodeRecord<Player>(std::span<const u8>(all).subspan(at, Player::kSize)).Name == name) return true;
+  return false;
+}
+
 void MarkUsed(LeagueState& s, const std::vector<int>& records) {
   RecordFile f(s.swap(swp::Database), DbRecord::kSize);
   const std::array<u8, 2> used{0xff, 0xff};  // DbFlag -1

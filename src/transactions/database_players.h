@@ -8,6 +8,8 @@ namespace kvl {
 
 // Every record of the database swap file, in record order (record n at n - 1).
 std::vector<DbRecord> ReadDatabase(const LeagueState& s);
+// True when a player of that name stands on any team's roster.
+bool OnAnyRoster(const LeagueState& s, const FixedText<22>& name);
 // Marks the records (numbered from 1) as held by a team.
 void MarkUsed(LeagueState& s, const std::vector<int>& records);
 

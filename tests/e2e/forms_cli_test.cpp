@@ -274,8 +274,8 @@ TEST(FormsCli, Rosters) {
   ExpectGolden(__FILE__, "forms_rosters.txt", lg.transcript + shortOfAll.transcript);
 }
 
-// The league's database holds Ann Ace used (rated 60) and free (77, wearing Team0's number 2);
-// Team1's roster is full.
+// The league's database holds Ann Ace used (rated 60) and free (77, wearing Team0's number 2),
+// and Cal Cole used by the draft for a prospect list (rated 70, on no roster); Team1's roster is full.
 TEST(FormsCli, ProspectsActivated) {
   LeaguePlan plan = StandardLeague(2);
   while (plan.rosters[1].size() < kRosterSlots) plan.rosters[1].push_back(MakePlayer("Filler", kDefence, 40, 0));
@@ -285,13 +285,20 @@ TEST(FormsCli, ProspectsActivated) {
   DbRecord free{kFalse, MakePlayer("Ann Ace", kCentre, 77)};
   free.P.Num = 2;
   db.putRecord(2, free);
+  db.putRecord(3, DbRecord{kTrue, MakePlayer("Cal Cole", kDefence, 70)});
   lg.kvlEach({{"--yes", "view-prospects", "1", "--add", "Ann Ace", "--activate", "Ann Ace"},
               {"view-prospects", "1"},
               {"--yes", "view-prospects", "0", "--add", "Ann Ace", "--add", "Bob Blue", "--activate", "Ann Ace"},
               {"--yes", "view-prospects", "0", "--activate", "Bob Blue"},
+              {"--yes", "view-prospects", "0", "--pos", "X", "--add", "Dan Dale"},
+              {"--yes", "view-prospects", "0", "--pos", "D", "--age", "19", "--add", "Dan Dale", "--add", "Cal Cole"},
               {"--yes", "view-prospects", "0", "--activate", "Bob Blue", "--manual", ""},
+              {"--yes", "view-prospects", "0", "--activate", "Dan Dale", "--manual", ""},
+              {"--yes", "view-prospects", "0", "--activate", "Cal Cole"},  // his own record, used by the draft
               {"player", "0", "24"},
               {"player", "0", "25"},
+              {"player", "0", "26"},
+              {"player", "0", "27"},
               {"--yes", "view-prospects", "0", "--add", "Ann Ace", "--activate", "Ann Ace"}});  // her record is used
   lg.note("log: " + ReadAll(lg.path + ".tra"));
   lg.expectTranscript(__FILE__, "forms_youth.txt");
