@@ -119,6 +119,14 @@ TEST(Waivers, OwnPlayerRefusedOthersTakeHimAsAScratch) {
   ASSERT_TRUE(Waivers(s, 1).cmdClaim(1));
   EXPECT_EQ((std::array{listOn(2), listOn(1), int(s.team(1).Waived != 0), int(s.team(2).Waived != 0)}),
             (std::array{-1, 1, 1, 0}));
+
+  // Unclaimed, he is recalled to the pro roster and his record is emptied.
+  Wire again;
+  again.placed();
+  ASSERT_TRUE(Waivers(again.h.state, 0).cmdRecall(1));
+  loadteam(again.h.state, 0, 0);
+  EXPECT_EQ(again.h.state.player(0, 0).list(), 1);
+  EXPECT_TRUE(ReadWaivers(again.h.state).empty() || ReadWaivers(again.h.state)[0].Name.empty());
 }
 
 TEST(UpdatePriority, MovesATeamToTheBottomAndRebuildsADamagedList) {
