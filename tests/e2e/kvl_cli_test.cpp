@@ -171,7 +171,8 @@ TEST(Cli, BadInputIsNamedAndChangesNothing) {
         lg.pinLeague = false;
         lg.kvl({"--yes", "load", lg.path + ".lge"});
       });
-  const auto slowest = [](Player& p) { p.Ratings[kSpd] = 255; };
+  // A name in the records' Windows-1252 reaches standard error as UTF-8, as standard output shows it.
+  const auto slowest = [](Player& p) { p.Ratings[kSpd] = 255, p.Name.set("Ren\xe9 Dub\xe9"); };
   run([&](Metro& lg) { EditRecord<Player>(lg.path + ".ros", 2 * kRosterSlots + 13, slowest); },
       [](Metro& lg) { lg.kvl({"--no", "exhibition", "2", "3"}); });
   const auto strayTeam = [](League& l) { l.Conf[0].Div[1].Team[2] = 187; };
