@@ -3,8 +3,11 @@ JOBS ?= $(shell nproc)
 BUILD := build/release
 ASAN := build/asan
 COVER := build/coverage
+FUZZ := build/fuzz
+FUZZ_SECONDS ?= 60
+FUZZ_RUNS ?=
 
-.PHONY: all bootstrap build build-asan demo test test-release test-asan bench coverage clean
+.PHONY: all bootstrap build build-asan demo test test-release test-asan bench coverage fuzz fuzz-build fuzz-corpus clean
 
 all: build
 
@@ -44,6 +47,22 @@ coverage: $(COVER)/CMakeCache.txt
 	find $(COVER) -name '*.gcda' -delete
 	$(COVER)/kvl_tests --gtest_brief=1
 	scripts/coverage $(COVER)
+
+# The readers fuzzed with clang's libFuzzer, which only this target installs.
+$(FUZZ)/CMakeCache.txt:
+	@scripts/bootstrap fuzz
+	CC=clang CXX=clang++ cmake -S . -B $(FUZZ) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DKVL_FUZZ=ON
+
+fuzz-build: $(FUZZ)/CMakeCache.txt
+	cmake --build $(FUZZ) -j $(JOBS)
+
+fuzz: fuzz-build
+	scripts/fuzz $(FUZZ) $(FUZZ_SECONDS) $(FUZZ_RUNS)
+
+# Rewrites the kept seeds from the league the targets stand on.
+fuzz-corpus: fuzz-build
+	rm -rf fuzz/corpus
+	$(FUZZ)/make_corpus fuzz/corpus
 
 bench: build
 	@for b in $(BUILD)/bench_*; do echo "== $$b"; $$b; done

@@ -36,6 +36,8 @@ class ScriptedUi : public Ui {
 
   void requestStop() { stop_ = true; }
   const std::vector<Call>& calls() const { return calls_; }
+  // Drops the record of calls, for a user that runs for long.
+  void forget() { calls_.clear(); }
   // The calls of one kind, in order.
   std::vector<Call> callsOf(const std::string& kind) const;
   bool told(const std::string& text, const std::string& title) const;
