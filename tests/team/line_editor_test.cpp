@@ -178,6 +178,7 @@ TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMovesAndARefusedOneChangesNothi
       {"a scratch sent down", 18, 100, 0, 0, 0, true, "Team0 assign T0 D 7 to minors<BR><BR>", nullptr},
       {"a minor staying down writes nothing", 22, 0, 0, 0, 0, true, "", nullptr},
       {"a status read by its list", 22, 0, 37, 0, 0, true, "", nullptr},
+      {"an empty slot's status moves nobody", 30, 0, 100, 0, 0, true, "", nullptr},
       {"an injured player dressed", 18, 103, 200, 0, 103, false, "", "T0 D 7 is being dressed"},
       {"an injured player dressed, injury and all", 18, 103, 203, 0, 103, false, "", "T0 D 7 is being dressed"},
       {"a suspended player dressed", 18, 100, 200, 2, 100, false, "", "Trying to use a suspended player"},
@@ -185,8 +186,7 @@ TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMovesAndARefusedOneChangesNothi
   };
   const Bytes roster = ReadFileBytes(h.state.swap("swp.r"));
   const Team team = h.state.team(0);
-  loadteam(h.state, 1, 1);
-  const Bytes otherSide = EncodeRecord(h.state.player(1, 0));
+  const Player scratch = MakePlayer("Buffer Scratch", kCentre, 50, 100);
   for (const auto& c : cases) {
     WriteFileAtomic(h.state.swap("swp.r"), roster);
     h.state.team(0) = team;
@@ -200,7 +200,7 @@ TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMovesAndARefusedOneChangesNothi
     loadteam(h.state, 0, 0);
     at(c.slot).Status = c.league;
     at(c.slot).Suspended = c.suspended;
-    h.state.team(0).LinesOK = kTrue;
+    h.state.team(0).LinesOK = kFalse;
     SaveTeam(h.state, 0, 0);
     const Bytes before = ReadFileBytes(h.state.swap("swp.r"));
     const Bytes teams = ReadFileBytes(h.state.swap("swp.t"));
@@ -208,8 +208,10 @@ TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMovesAndARefusedOneChangesNothi
     const std::string logBefore = ReadAll(h.state.swap(swp::Transactions));
     h.state.CurTeam = 0;
     h.state.Dirty = false;
+    h.state.player(0, kRosterSlots) = scratch;
     EXPECT_EQ(ImportLinesSub(h.state, 0, nullptr, dir / "t.lns").ok, c.linesTaken) << c.what;
-    EXPECT_EQ(EncodeRecord(h.state.player(1, 0)), otherSide) << c.what << ": the other side is no part of it";
+    EXPECT_EQ(EncodeRecord(h.state.player(0, kRosterSlots)), EncodeRecord(scratch))
+        << c.what << ": the buffer's scratch slot is no part of the roster";
     loadteam(h.state, 0, 0);
     EXPECT_EQ(at(c.slot).Status, c.after) << c.what;
     EXPECT_EQ(at(0).Protected, c.linesTaken ? -1 : 0) << c.what;
@@ -220,6 +222,7 @@ TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMovesAndARefusedOneChangesNothi
               *c.log ? std::string(c.log) + "\r\n" : "")
         << c.what;
     EXPECT_EQ(h.state.Dirty, c.linesTaken) << c.what;
+    EXPECT_EQ(h.state.team(0).LinesOK, c.linesTaken ? kTrue : kFalse) << c.what;
     if (c.linesTaken) continue;
     EXPECT_TRUE(h.ui.told(c.told, "Team0 lines are not valid")) << c.what;
     EXPECT_TRUE(ReadFileBytes(h.state.swap("swp.r")) == before && ReadFileBytes(h.state.swap("swp.t")) == teams)
@@ -232,7 +235,9 @@ TEST_F(LinesFileTest, AFileLoadedIntoTheOpenEditorIsStoredOnLeaving) {
   LineEditor e(h.state, 0);
   const LineTable stored = h.state.team(0).Lines;
   h.state.CurTeam = 0;
-  ASSERT_TRUE(cmdLoadLines(h.state, e, dir / "t.lns").ok);
+  h.ui.push((dir / "t.lns").string());
+  ASSERT_TRUE(cmdLoadLines(h.state, e).ok);
+  EXPECT_EQ(h.ui.callsOf("chooseFile").at(0).title, "Import Text Lines");
   LineTable expected = saved;
   ForceUnusedSlots(expected);
   EXPECT_EQ(e.LineBuf, expected);
