@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "console/league_view.h"
-#include "league/league_files.h"
 #include "session.h"
 #include "team/auto_load_lines.h"
 #include "team/line_editor.h"
@@ -12,7 +11,6 @@
 #include "team/lines_import.h"
 #include "team/lines_text_import.h"
 #include "util/error.h"
-#include "util/record_file.h"
 
 namespace kvl {
 
@@ -33,27 +31,14 @@ void RunSaveLines(Session& s, const LinesFileArgs& a) {
   s.ui.print(fmt::format("Lines of the {} written to {}.", s.state.team(team).Name.str(), written->string()));
 }
 
-void Refuse(Session& s, const LinesImport& r) {
-  s.ui.print("Not loaded: " + r.why);
-  throw Refused(r.why);
-}
-
 void RunLoadLines(Session& s, const LinesFileArgs& a) {
   const int team = ResolveTeam(s.state, a.team);
-  s.state.CurTeam = static_cast<u8>(team);
-  const fs::path file(a.file);
-  const Bytes bytes = ReadFileBytes(file);
-  if (!IsTextLinesFile(std::string(bytes.begin(), bytes.end()))) {
-    loadteam(s.state, team, 0);
-    LinesImport r = ImportLinesSub(s.state, 0, nullptr, file);
-    if (!r.ok) Refuse(s, r);
-  } else {
-    LineEditor e(s.state, team);
-    LinesImport r = cmdTextLines(s.state, e, file);
-    if (!r.ok) Refuse(s, r);
-    if (!e.cmdExit()) throw Refused("lines not complete");
+  LinesImport r = LoadLinesFile(s.state, team, a.file);
+  if (!r.ok) {
+    s.ui.print("Not loaded: " + r.why);
+    throw Refused(r.why);
   }
-  s.ui.print(fmt::format("Lines of the {} loaded from {}.", s.state.team(team).Name.str(), file.string()));
+  s.ui.print(fmt::format("Lines of the {} loaded from {}.", s.state.team(team).Name.str(), a.file));
 }
 
 void RegisterSaveLoad(CLI::App& app, Session& s) {
@@ -75,8 +60,9 @@ void RegisterSaveLoad(CLI::App& app, Session& s) {
   cmd->add_option("FILE", load->file, "the lines file")->required();
   cmd->footer(
       "A text file lists 20 dressed numbers, one ignored entry, the rows E1-P2 (5 each), P3-K2 (4), K3-K4 (3), the "
-      "two spares and the starting goalie, separated by commas or line ends; *** marks a missing entry. A refused "
-      "file leaves the team's lines as they were and exits 1.");
+      "two spares and the starting goalie, separated by commas or line ends; *** marks a missing entry. A file is "
+      "checked whole before anything changes: 20 dressed, none of them injured or suspended, and every seat a "
+      "dressed player placed as the line editor places him. A refused file changes nothing and exits 1.");
 }
 
 void RegisterAutoLoad(CLI::App& app, Session& s) {

@@ -25,10 +25,11 @@ std::string LoadTeamLines(LeagueState& s, int team) {
   }
   s.CurTeam = static_cast<u8>(team);
   loadteam(s, team, 0);
-  auto error = TakeLinesRecord(s, team, 0, r, nullptr);
+  if (auto fault = TakeLinesRecord(s, team, 0, r, nullptr))
+    return fault->message + " (" + file.string() + ", " + fault->entry + ")";
   s.Dirty = true;
   SaveTeam(s, team, 0);
-  return error ? *error : kLoaded;
+  return kLoaded;
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 #pragma once
 // The console's "Auto Load Lines": every team's lines file from the folder of
 // LinesDirectory.txt, named after the team, loaded without the password
-// check. A broken file is reported and the next team loaded all the same.
+// check. A refused file is reported, its team kept as it was, and the next
+// team loaded all the same.
 #include <filesystem>
 #include <string>
 

@@ -35,12 +35,14 @@ void LineEditor::Check1(int pos, bool shown) {
   AddPlayers();
 }
 
-bool LineEditor::PlaceGoalieRow(int slot, const Player& p, int player) {
-  bool fits = slot == 0 ? p.Pos == kGoalie : p.Pos != kGoalie;
-  if (!fits) return false;
-  LineBuf.at(kGoalieRow, slot) = static_cast<u8>(player);
-  Changes(kGoalieRow);
-  return true;
+SeatFault PlacementFault(const LineTable& t, int row, int slot, const Player& p, int index) {
+  const bool goalie = p.Pos == kGoalie;
+  if (row == kGoalieRow && slot == 0) return goalie ? SeatFault::None : SeatFault::SkaterInGoal;
+  if (goalie) return SeatFault::GoalieOnLine;
+  if (row == kGoalieRow) return SeatFault::None;  // the spares: the editor lets one stand in both
+  for (int k = 0; k < SlotsInRow(row); ++k)
+    if (k != slot && t.at(row, k) == index) return SeatFault::TwiceOnRow;
+  return SeatFault::None;
 }
 
 bool LineEditor::Offers(int player) const {
@@ -51,14 +53,16 @@ bool LineEditor::Offers(int player) const {
 
 bool LineEditor::Place(int index, int player) {
   if (!Offers(player) || index < 0 || index > 22) return false;
+  int row = kGoalieRow, slot = index - 20;
+  if (index < 20) {
+    const int line = index / 5;
+    slot = index - 5 * line;
+    row = line + PageFirstRow(Page);
+    if (slot >= SlotsInRow(row)) return false;
+  }
   const Player& p = s_.player(side(), player);
-  if (index >= 20) return PlaceGoalieRow(index - 20, p, player);
-  if (p.Pos == kGoalie) return false;
-  int line = index / 5, slot = index - 5 * line;
-  int row = line + PageFirstRow(Page);
-  if (slot >= SlotsInRow(row)) return false;
-  for (int k = 0; k < kLineSlots; ++k)
-    if (LineBuf.at(row, k) == player) return false;
+  if (LineBuf.at(row, slot) == player || PlacementFault(LineBuf, row, slot, p, player) != SeatFault::None)
+    return false;
   LineBuf.at(row, slot) = static_cast<u8>(player);
   Changes(row);
   return true;

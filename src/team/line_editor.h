@@ -15,6 +15,13 @@ namespace kvl {
 // Per rating (Int .. Ldr, then RatingSpare) and Overall last.
 using RatingAverages = std::array<int, kRatingCount + 1>;
 
+// Why the editor would not seat a dressed player: a goalie on a line or as a
+// spare, a skater in goal, or a player already in another seat of the row.
+enum class SeatFault { None, GoalieOnLine, SkaterInGoal, TwiceOnRow };
+// The editor's rule for `p`, roster index `index`, in (row, slot) of `t`. Lines
+// files are checked by it too, so a file holds only what the editor could place.
+SeatFault PlacementFault(const LineTable& t, int row, int slot, const Player& p, int index);
+
 class LineEditor : public LineMaker {
  public:
   // Loads `team` into side 0 and opens on its table; warns when nobody is dressed.
@@ -53,7 +60,6 @@ class LineEditor : public LineMaker {
   std::array<bool, 5> ShowPos{true, true, true, true, true};
 
  private:
-  bool PlaceGoalieRow(int slot, const Player& p, int player);
   void Changes(int row);
 
   int Page = 0;

@@ -24,6 +24,12 @@ std::string_view SlotLabel(int row, int slot) {
   }
 }
 
+std::string SeatName(int row, int slot) {
+  static constexpr std::array<std::string_view, 3> kGoalieRowSeats{"starting goalie", "spare 1", "spare 2"};
+  if (row == kGoalieRow) return std::string(kGoalieRowSeats[static_cast<std::size_t>(slot)]);
+  return RowLabel(row) + " " + std::string(SlotHeading(row, slot));
+}
+
 std::string_view RowCaption(int row) {
   static constexpr std::array<std::string_view, kSkaterRows> kCaptions{
       "Even Strength Line 1", "Even Strength Line 2", "Even Strength Line 3", "Even Strength Line 4",

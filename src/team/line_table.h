@@ -18,6 +18,8 @@ int SlotsInRow(int row);
 std::string RowLabel(int row);
 // The letter of a slot in the assignment text: C L R D D, C W D D, C D D.
 std::string_view SlotLabel(int row, int slot);
+// A seat as messages name it: "E1 C", "P3 W", "K4 D", "starting goalie", "spare 1", "spare 2".
+std::string SeatName(int row, int slot);
 // The editor's caption of a row; row 11 repeats the text of row 9.
 std::string_view RowCaption(int row);
 

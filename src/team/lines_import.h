@@ -1,7 +1,10 @@
 #pragma once
-// Loading a manager's binary lines file into a team: statuses move (going down
-// through the waiver gate), protection marks are taken, and the table is
-// stored when no player was refused.
+// Loading a manager's binary lines file into a team. The file is checked whole
+// first: its statuses (no injured or suspended player dressed, 20 dressed) and
+// every seat of its table (a player of the roster the file dresses, placed as
+// the line editor would place him). A refused file changes nothing; a taken one
+// moves statuses (going down through the waiver gate), takes the protection
+// marks and stores the table.
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -18,15 +21,24 @@ struct LinesImport {
   std::string why;
 };
 
-// Moves statuses and takes the protection marks of `r` for `team`, loaded in
-// `side`; then stores the table (in the editor's LineBuf when `editor` is
-// given) unless a player was refused. On a refusal without an editor, a team
-// whose lines were not set gets AutoRoster. The refusal's text, if any.
-std::optional<std::string> TakeLinesRecord(LeagueState& s, int team, int side, const LinesFileRecord& r,
-                                           LineEditor* editor);
+// Why a lines file is refused: the entry ("E4 D", "spare 1", "roster slot 18,
+// T0 D 7", "statuses") and the message told, which names the player.
+struct LinesFault {
+  std::string entry, message;
+};
+
+// The first fault of `r` for the team loaded in `side`; nullopt when it can be taken.
+std::optional<LinesFault> LinesRecordFault(const LeagueState& s, int side, const LinesFileRecord& r);
+
+// Takes `r` for `team`, loaded in `side`, when it has no fault: statuses and
+// protection marks, then the table (into the editor's LineBuf when `editor` is
+// given), LinesOK and the moves' transaction text. A fault changes nothing.
+std::optional<LinesFault> TakeLinesRecord(LeagueState& s, int team, int side, const LinesFileRecord& r,
+                                          LineEditor* editor);
 
 // The file chosen (or `chosen`) loaded into CurTeam in `side`, after the
-// password check; refusals are told. Without an editor the team is saved.
+// password check; refusals are told. Without an editor a taken file is saved
+// with the team.
 LinesImport ImportLinesSub(LeagueState& s, int side, LineEditor* editor,
                            std::optional<std::filesystem::path> chosen = std::nullopt);
 

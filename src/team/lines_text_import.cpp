@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "league/league_files.h"
 #include "team/line_editor.h"
 #include "team/line_table.h"
 #include "ui/ui.h"
@@ -57,7 +58,7 @@ class TextLinesReader {
       for (int slot = 0; slot < SlotsInRow(row); ++slot) Skater(Next(), row, slot, row < 6 || row > 9);
     Skater(Next(), kGoalieRow, 1, false);
     Skater(Next(), kGoalieRow, 2, false);
-    Goalie(Next());
+    Seat(Next(), kGoalieRow, 0);
   }
 
   const std::array<u8, kRosterSlots>& status() const { return copy_; }
@@ -98,7 +99,9 @@ class TextLinesReader {
     if (i < 0) Fail("Wrong Player Number Used", t);
     const Player& p = s_.player(side_, i);
     if (p.injury() > 0 || p.Suspended != 0) Fail("Player with no. " + t.text + " can't be in Roster", t);
-    copy_[static_cast<std::size_t>(i)] = 200;
+    auto& status = copy_[static_cast<std::size_t>(i)];
+    if (status == 200) Fail("Player with no. " + t.text + " is dressed twice", t);
+    status = 200;
   }
 
   int Dressed(const TextLinesToken& t) const {
@@ -111,15 +114,19 @@ class TextLinesReader {
 
   void Skater(const TextLinesToken& t, int row, int slot, bool starCounts) {
     if (Star(t) && starCounts) Fail("Not Enough Players", t);
-    const int i = Dressed(t);
-    if (s_.player(side_, i).Pos == kGoalie) Fail("Playing Goalie as Forward", t);
-    buf_.at(row, slot) = static_cast<u8>(i);
+    Seat(t, row, slot);
   }
 
-  void Goalie(const TextLinesToken& t) {
+  // The line editor's placement rules, in the file's words.
+  void Seat(const TextLinesToken& t, int row, int slot) {
     const int i = Dressed(t);
-    if (s_.player(side_, i).Pos != kGoalie) Fail("Playing Forward as Goalie", t);
-    buf_.at(kGoalieRow, 0) = static_cast<u8>(i);
+    switch (PlacementFault(buf_, row, slot, s_.player(side_, i), i)) {
+      case SeatFault::GoalieOnLine: Fail("Playing Goalie as Forward", t);
+      case SeatFault::SkaterInGoal: Fail("Playing Forward as Goalie", t);
+      case SeatFault::TwiceOnRow: Fail("Player with no. " + t.text + " sits twice on " + RowLabel(row), t);
+      case SeatFault::None: break;
+    }
+    buf_.at(row, slot) = static_cast<u8>(i);
   }
 
   LeagueState& s_;
@@ -179,6 +186,19 @@ LinesImport cmdTextLines(LeagueState& s, LineEditor& e, std::optional<std::files
   e.AddPlayers();
   e.ReadLineAssgts();
   return {true, ""};
+}
+
+LinesImport LoadLinesFile(LeagueState& s, int team, const std::filesystem::path& file) {
+  s.CurTeam = static_cast<u8>(team);
+  const Bytes bytes = ReadFileBytes(file);
+  if (!IsTextLinesFile(std::string(bytes.begin(), bytes.end()))) {
+    loadteam(s, team, 0);
+    return ImportLinesSub(s, 0, nullptr, file);
+  }
+  LineEditor e(s, team);
+  LinesImport r = cmdTextLines(s, e, file);
+  if (r.ok && !e.cmdExit()) return {false, file.string() + ": Lines are not complete"};
+  return r;
 }
 
 }  // namespace kvl

@@ -1,9 +1,11 @@
 // Each area's commands run over a written league as a user runs them, every
 // run kept in a golden transcript (golden/*.txt): refusals tell the system's
 // words and exit 1, usage errors exit 2, and what is done is saved.
+#include <functional>
 #include <set>
 
 #include "season/schedule_file.h"
+#include "support/found_file_set.h"
 #include "support/golden.h"
 #include "support/kvl_test.h"
 #include "support/league_cli.h"
@@ -114,12 +116,61 @@ TEST(Commands, RostersLinesAndCoaches) {
   ExpectGolden(__FILE__, "team.txt", lg.transcript + refused.transcript + gapped.transcript);
 }
 
+// Team0's good file damaged one way a row, binary under its password and text:
+// each is refused, naming the file, the entry, the player and what is wrong, and
+// the league's files stay byte for byte as they were.
+void RefuseDamagedLinesFiles(CliLeague& lg, const std::vector<Player>& roster, const std::string& dir) {
+  const LinesFileRecord good = DecodeRecord<LinesFileRecord>(ReadFileBytes(dir + "/Team0.lns"));
+  const std::pair<const char*, std::function<void(LinesFileRecord&)>> damages[] = {
+      {"past-roster", [](LinesFileRecord& r) { r.Lines.at(3, 4) = 77; }},
+      {"no-goalie", [](LinesFileRecord& r) { r.Lines.at(kGoalieRow, 0) = kNoPlayer; }},
+      {"skater-in-goal", [](LinesFileRecord& r) { r.Lines.at(kGoalieRow, 0) = 0; }},
+      {"goalie-on-line", [](LinesFileRecord& r) { r.Lines.at(8, 1) = 19; }},
+      {"five-seats", [](LinesFileRecord& r) { for (int k = 0; k < 5; ++k) r.Lines.at(0, k) = 1; }},
+      {"empty-slot", [](LinesFileRecord& r) { r.Lines.at(12, 2) = 30; }},
+      {"sent-down", [](LinesFileRecord& r) { r.Status[0] = 0; }},
+      {"21-dressed", [](LinesFileRecord& r) { r.Status[20] = 200; }},
+  };
+  const Snapshot before = SnapshotDir(dir, "test.");
+  fs::create_directories(dir + "/damaged");
+  for (const auto& [name, damage] : damages) {
+    LinesFileRecord r = good;
+    damage(r);
+    WriteFileAtomic(dir + "/damaged/" + name + ".lns", EncodeRecord(r));
+    lg.kvl({"--yes", "load-lines", "0", dir + "/damaged/" + name + ".lns"});
+  }
+  // The text of the good file: the dressed, one ignored entry, the rows, the spares, the goalie.
+  std::vector<int> nums;
+  for (int slot = 0; slot < 20; ++slot) nums.push_back(roster[static_cast<std::size_t>(slot)].Num);
+  nums.push_back(0);
+  const int seats[kLineRows] = {5, 5, 5, 5, 5, 5, 4, 4, 4, 4, 3, 3, 3};
+  for (int row = 0; row < kLineRows; ++row)
+    for (int k = 0; k < seats[row]; ++k)  // the goalie row: the spares, then the starter
+      nums.push_back(roster[good.Lines.at(row, row == kGoalieRow ? (k + 1) % 3 : k)].Num);
+  const std::pair<const char*, std::function<void(std::vector<int>&)>> texts[] = {
+      {"dressed-twice.txt", [](std::vector<int>& t) { t[1] = t[0]; }},
+      {"five-seats.txt", [](std::vector<int>& t) { std::fill_n(t.begin() + 21, 5, t[21]); }},
+  };
+  for (const auto& [name, damage] : texts) {
+    std::vector<int> t = nums;
+    damage(t);
+    WriteText(dir + "/damaged/" + name, fmt::format("{}\r\n", fmt::join(t, ",")));
+    lg.kvl({"--yes", "load-lines", "0", dir + "/damaged/" + name});
+  }
+  fs::create_directories(dir + "/auto");
+  fs::copy_file(dir + "/damaged/no-goalie.lns", dir + "/auto/Team0.lns");
+  WriteText(lg.home / "LinesDirectory.txt", dir + "/auto\r\n");
+  lg.kvl({"--yes", "auto-load-lines"});
+  EXPECT_EQ(Differences(before, SnapshotDir(dir, "test.")), std::vector<std::string>{});
+}
+
 // A lines file keeps ten characters of the password and loads only with the team's, matched
 // case and all (a team without one takes an empty one); Auto Load Lines does not ask for it.
 TEST(Commands, LinesFilesProspectsAndTheDatabase) {
   LeaguePlan plan = StandardLeague(4);
   plan.teams[0].Password.set("pw");
   plan.teams[1].Password.set("secret1234");
+  plan.teams[1].Lines = plan.teams[2].Lines = StandardLines();
   CliLeague lg(plan);
   const std::string dir = fs::path(lg.path).parent_path().string();
   WriteText(dir + "/bad.txt", "99,2,3\r\n");
@@ -140,9 +191,9 @@ TEST(Commands, LinesFilesProspectsAndTheDatabase) {
   cut.resize(100);
   WriteFileAtomic(dir + "/Team1.lns", cut);
   WriteText(lg.home / "LinesDirectory.txt", dir + "/\r\n");
-  lg.kvlEach({{"--yes", "load-lines", "1", dir + "/Team1.lns"},
-              {"--yes", "auto-load-lines"},
-              {"--yes", "set-roster", "0", "--add", "New Guy", "--add-pos", "D", "--name", "22=Renamed"},
+  lg.kvlEach({{"--yes", "load-lines", "1", dir + "/Team1.lns"}, {"--yes", "auto-load-lines"}});
+  RefuseDamagedLinesFiles(lg, plan.rosters[0], dir);
+  lg.kvlEach({{"--yes", "set-roster", "0", "--add", "New Guy", "--add-pos", "D", "--name", "22=Renamed"},
               {"--yes", "view-prospects", "1", "--add", "Kid Prospect", "--activate", "1", "--manual", ""},
               {"--yes", "player-database", "--output"},
               {"player-database", dir + "/bad.txt", "--list"},

@@ -7,11 +7,8 @@
 
 namespace kvl::test {
 
-namespace {
-
-// Four even-strength lines, both power-play and penalty-kill units, the starter
-// in slot 19 and two spare skaters.
-void FillStandardLines(LineTable& lines) {
+LineTable StandardLines() {
+  LineTable lines;
   lines.cells.fill(kNoPlayer);
   auto row = [&](int r, std::initializer_list<int> slots) {
     int seat = 0;
@@ -28,9 +25,8 @@ void FillStandardLines(LineTable& lines) {
   row(10, {2, 16, 17});
   row(11, {3, 14, 15});
   row(12, {kFirstG, 3, 16});
+  return lines;
 }
-
-}  // namespace
 
 LeaguePlan SimLeague(int teams, unsigned seed) {
   LeaguePlan plan = StandardLeague(teams, seed);
@@ -39,7 +35,7 @@ LeaguePlan SimLeague(int teams, unsigned seed) {
     roster[20].Status = 200;
   }
   for (auto& t : plan.teams) {
-    FillStandardLines(t.Lines);
+    t.Lines = StandardLines();
     t.LinesOK = kTrue;
   }
   return plan;

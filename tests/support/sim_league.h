@@ -11,6 +11,10 @@ namespace kvl::test {
 // Roster slots of the standard league: C 0-3, LW 4-7, RW 8-11, D 12-18, G 19-21.
 constexpr int kFirstLW = 4, kFirstRW = 8, kFirstD = 12, kFirstG = 19;
 
+// A legal table for the standard rosters: four lines, both units of each kind,
+// the starter in slot 19 and two spares; D 7 and the other goalies on no line.
+LineTable StandardLines();
+
 // StandardLeague with D 7 scratched, the second goalie dressed and lines set.
 LeaguePlan SimLeague(int teams, unsigned seed = 1);
 

@@ -2,14 +2,20 @@
 // the text import. The password, a damaged file and Auto Load Lines are the e2e tests' (golden/lines.txt).
 #include "team/line_editor.h"
 
+#include <cstdio>
 #include <fstream>
+#include <map>
+#include <random>
 
+#include "sim/exhibition.h"
+#include "support/found_file_set.h"
 #include "support/golden.h"
 #include "support/kvl_test.h"
 #include "support/team_rosters.h"
 #include "team/line_table.h"
 #include "team/lines_file.h"
 #include "team/lines_import.h"
+#include "team/auto_load_lines.h"
 #include "team/lines_text_import.h"
 
 namespace kvl::test {
@@ -155,7 +161,7 @@ struct LinesFileTest : ::testing::Test {
   Player& at(int slot) { return h.state.player(0, slot); }
 };
 
-TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMoves) {
+TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMovesAndARefusedOneChangesNothing) {
   struct Case {
     const char* what;
     int slot;
@@ -165,42 +171,82 @@ TEST_F(LinesFileTest, ALoadMovesPlayersAndLogsTheMoves) {
     bool linesTaken;
     const char* log;  // in the transaction log, or "" for nothing
     const char* told;
+    bool scratchBackup = false;  // the file scratches the dressed goalie on no line, to dress 20
   } cases[] = {
       {"a minor dressed is called up", 22, 0, 200, 0, 200, true, "Team0 promote T0 Minor 1 to pro roster<BR><BR> ",
-       nullptr},
+       nullptr, true},
       {"a scratch sent down", 18, 100, 0, 0, 0, true, "Team0 assign T0 D 7 to minors<BR><BR>", nullptr},
       {"a minor staying down writes nothing", 22, 0, 0, 0, 0, true, "", nullptr},
+      {"a status read by its list", 22, 0, 37, 0, 0, true, "", nullptr},
+      {"an empty slot's status moves nobody", 30, 0, 100, 0, 0, true, "", nullptr},
       {"an injured player dressed", 18, 103, 200, 0, 103, false, "", "T0 D 7 is being dressed"},
+      {"an injured player dressed, injury and all", 18, 103, 203, 0, 103, false, "", "T0 D 7 is being dressed"},
       {"a suspended player dressed", 18, 100, 200, 2, 100, false, "", "Trying to use a suspended player"},
+      {"21 dressed", 22, 0, 200, 0, 0, false, "", "21 players are dressed; a team dresses 20"},
   };
   const Bytes roster = ReadFileBytes(h.state.swap("swp.r"));
   const Team team = h.state.team(0);
+  const Player scratch = MakePlayer("Buffer Scratch", kCentre, 50, 100);
   for (const auto& c : cases) {
     WriteFileAtomic(h.state.swap("swp.r"), roster);
     h.state.team(0) = team;
-    Save(dir / "t.lns", "secret");
+    const LineTable saved = Save(dir / "t.lns", "secret");
     RecordFile f(dir / "t.lns", LinesFileRecord::kSize);
     LinesFileRecord r = f.getRecord<LinesFileRecord>(1);
     r.Status[static_cast<std::size_t>(c.slot)] = c.file;
-    r.Lines.at(0, 0) = 3;
+    if (c.scratchBackup) r.Status[saved.at(kGoalieRow, 0) == 19 ? 20 : 19] = 100;
+    r.Protected[0] = -1;
     f.putRecord(1, r);
     loadteam(h.state, 0, 0);
     at(c.slot).Status = c.league;
     at(c.slot).Suspended = c.suspended;
-    h.state.team(0).LinesOK = kTrue;
+    h.state.team(0).LinesOK = kFalse;
     SaveTeam(h.state, 0, 0);
-    const LineTable before = h.state.team(0).Lines;
+    const Bytes before = ReadFileBytes(h.state.swap("swp.r"));
+    const Bytes teams = ReadFileBytes(h.state.swap("swp.t"));
+    const LineTable lines = h.state.team(0).Lines;
     const std::string logBefore = ReadAll(h.state.swap(swp::Transactions));
     h.state.CurTeam = 0;
-    ImportLinesSub(h.state, 0, nullptr, dir / "t.lns");
+    h.state.Dirty = false;
+    h.state.player(0, kRosterSlots) = scratch;
+    EXPECT_EQ(ImportLinesSub(h.state, 0, nullptr, dir / "t.lns").ok, c.linesTaken) << c.what;
+    EXPECT_EQ(EncodeRecord(h.state.player(0, kRosterSlots)), EncodeRecord(scratch))
+        << c.what << ": the buffer's scratch slot is no part of the roster";
     loadteam(h.state, 0, 0);
     EXPECT_EQ(at(c.slot).Status, c.after) << c.what;
-    EXPECT_EQ(h.state.team(0).Lines, c.linesTaken ? r.Lines : before) << c.what;
+    EXPECT_EQ(at(0).Protected, c.linesTaken ? -1 : 0) << c.what;
+    LineTable stored = saved;
+    ForceUnusedSlots(stored);
+    EXPECT_EQ(h.state.team(0).Lines, c.linesTaken ? stored : lines) << c.what;
     EXPECT_EQ(ReadAll(h.state.swap(swp::Transactions)).substr(logBefore.size()),
               *c.log ? std::string(c.log) + "\r\n" : "")
         << c.what;
-    EXPECT_TRUE(!c.told || h.ui.told(c.told, "Team0 lines are not valid")) << c.what;
+    EXPECT_EQ(h.state.Dirty, c.linesTaken) << c.what;
+    EXPECT_EQ(h.state.team(0).LinesOK, c.linesTaken ? kTrue : kFalse) << c.what;
+    if (c.linesTaken) continue;
+    EXPECT_TRUE(h.ui.told(c.told, "Team0 lines are not valid")) << c.what;
+    EXPECT_TRUE(ReadFileBytes(h.state.swap("swp.r")) == before && ReadFileBytes(h.state.swap("swp.t")) == teams)
+        << c.what << ": a refused file changes nothing";
   }
+}
+
+TEST_F(LinesFileTest, AFileLoadedIntoTheOpenEditorIsStoredOnLeaving) {
+  const LineTable saved = Save(dir / "t.lns", "secret");
+  LineEditor e(h.state, 0);
+  const LineTable stored = h.state.team(0).Lines;
+  h.state.CurTeam = 0;
+  h.ui.push((dir / "t.lns").string());
+  ASSERT_TRUE(cmdLoadLines(h.state, e).ok);
+  EXPECT_EQ(h.ui.callsOf("chooseFile").at(0).title, "Import Text Lines");
+  LineTable expected = saved;
+  ForceUnusedSlots(expected);
+  EXPECT_EQ(e.LineBuf, expected);
+  EXPECT_TRUE(e.Changed);
+  EXPECT_EQ(e.assignment(saved.at(0, 0)).substr(0, 3), "E1C");
+  EXPECT_EQ(h.state.team(0).Lines, stored) << "not before leaving";
+  h.ui.push("yes");
+  EXPECT_TRUE(e.cmdExit());
+  EXPECT_EQ(h.state.team(0).Lines, expected);
 }
 
 // The text of a valid file for Team0's auto lines, as tokens.
@@ -225,13 +271,16 @@ TEST_F(LinesFileTest, TheTextImportRefusesEachWrongFileWithItsText) {
     std::string with;
     const char* told;  // nullptr: accepted
     std::string lineEnd = "\r\n";
+    int also = -1;  // a second token replaced the same way
   } cases[] = {
       {"a good file with CR LF ends", -1, "", nullptr},
       {"a good file with LF ends", -1, "", nullptr, "\n"},
       {"the ignored entry may hold anything", kIgnored, "Team0", nullptr},
       {"a missing dressed player", 3, "***", "Not Enough Players in Roster"},
       {"an injured player dressed", 0, "24", "Player with no. 24 can't be in Roster"},
+      {"a player dressed twice", 1, "2", "Player with no. 2 is dressed twice"},
       {"a missing line entry", kE1C, "***", "Not Enough Players"},
+      {"a player twice on a line", kE1C, "2", "Player with no. 2 sits twice on E1", "\r\n", kE1C + 1},
       {"a goalie at centre", kE1C, "21", "Playing Goalie as Forward"},
       {"an undressed player on a line", kE1C, "20", "Player with no. 20 can't be in Roster"},
       {"a number nobody wears on a line", kE1C, "77", "Errors in File"},
@@ -244,7 +293,8 @@ TEST_F(LinesFileTest, TheTextImportRefusesEachWrongFileWithItsText) {
   const std::vector<std::string> good = TextOf(h.state, auto0.LineBuf);
   for (const auto& c : cases) {
     std::vector<std::string> tok = good;
-    if (c.token >= 0) tok[static_cast<std::size_t>(c.token)] = c.with;
+    for (int k : {c.token, c.also})
+      if (k >= 0) tok[static_cast<std::size_t>(k)] = c.with;
     if (c.token >= 0 && c.with.empty()) tok.resize(static_cast<std::size_t>(c.token));
     std::string text = "\xEF\xBB\xBF";
     for (std::size_t i = 0; i < tok.size(); ++i) text += tok[i] + (i % 5 == 4 ? c.lineEnd : ",");
@@ -264,6 +314,71 @@ TEST_F(LinesFileTest, TheTextImportRefusesEachWrongFileWithItsText) {
     EXPECT_NE(r.why.find("t.txt"), std::string::npos) << c.what;
   }
   EXPECT_NE(TextLinesTokens("1,\r\n\xE9").back().line, 1) << "lines are counted";
+}
+
+// Mutated lines files through the load-lines and auto-load-lines commands'
+// functions: binary files under the right password, each through both, and text
+// files. None is taken that stops a game, and a refused one leaves every swap
+// file and the team's record as they were.
+TEST_F(LinesFileTest, MutatedFilesAreTakenOnlyWhenTheTeamCanPlay) {
+  constexpr int kFiles = 200;
+  const LineTable lines = Save(dir / "Team0.lns", "secret");
+  const Bytes good = ReadFileBytes(dir / "Team0.lns");
+  const std::vector<std::string> goodText = TextOf(h.state, lines);
+  WriteText(h.home / "LinesDirectory.txt", dir.string());
+  h.ui.setFallback(Answer::Yes);
+  const Snapshot swaps = SnapshotDir(h.home, "swp.");
+  const Bytes team = EncodeRecord(h.state.team(0));
+  std::mt19937 gen(28);
+  auto pick = [&](int n) { return static_cast<int>(gen() % static_cast<unsigned>(n)); };
+  std::map<std::string, int> figures;
+  auto outcome = [&](const std::string& kind, bool taken, const std::string& what) {
+    ++figures[kind + (taken ? " taken" : " refused")];
+    if (taken) {
+      try {
+        PlayExhibition(h.state, 0, 1);
+      } catch (const KvlError& e) {
+        ADD_FAILURE() << kind << ", " << what << ": taken, and the game stopped: " << e.what();
+      }
+    } else {
+      EXPECT_EQ(Differences(swaps, SnapshotDir(h.home, "swp.")), std::vector<std::string>{}) << kind << ", " << what;
+      EXPECT_TRUE(EncodeRecord(h.state.team(0)) == team && !h.state.Dirty) << kind << ", " << what;
+    }
+    for (const auto& [name, bytes] : SnapshotDir(h.home, "swp."))
+      if (!swaps.contains(name)) fs::remove(h.home / name);
+    for (const auto& [name, bytes] : swaps) WriteFileAtomic(h.home / name, bytes);
+    h.state.team(0) = DecodeRecord<Team>(team);
+    h.state.Dirty = false;
+  };
+  for (int n = 0; n < kFiles; ++n) {
+    Bytes bin = good;
+    std::string what = "bytes";
+    for (int k = 0, changes = 1 + pick(3); k < changes; ++k) {
+      const auto at = static_cast<std::size_t>(11 + pick(static_cast<int>(bin.size()) - 11));  // not the password
+      bin[at] = static_cast<u8>(pick(2) ? pick(256) : pick(25));  // often a roster slot
+      what += fmt::format(" {}={}", at, bin[at]);
+    }
+    WriteFileAtomic(dir / "Team0.lns", bin);
+    const bool single = LoadLinesFile(h.state, 0, dir / "Team0.lns").ok;
+    outcome("binary, load-lines", single, what);
+    const bool automatic = LoadAutoLines(h.state).find("Team0 --") == std::string::npos;
+    outcome("binary, auto-load-lines", automatic, what);
+    EXPECT_EQ(single, automatic) << what;
+
+    std::vector<std::string> tok = goodText;
+    what = "tokens";
+    for (int k = 0, changes = 1 + pick(2); k < changes; ++k) {
+      const auto at = static_cast<std::size_t>(pick(static_cast<int>(tok.size())));
+      tok[at] = pick(8) == 0 ? "***" : std::to_string(pick(27));
+      what += fmt::format(" {}={}", at, tok[at]);
+    }
+    WriteText(dir / "t.txt", fmt::format("{}\r\n", fmt::join(tok, ",")));
+    outcome("text", LoadLinesFile(h.state, 0, dir / "t.txt").ok, what);
+  }
+  for (const auto& [kind, count] : figures) std::printf("%s: %d\n", kind.c_str(), count);
+  for (const char* kind : {"binary, load-lines", "text"})
+    EXPECT_TRUE(figures[std::string(kind) + " taken"] > 0 && figures[std::string(kind) + " refused"] > 0)
+        << kind << ": the mutations try both ways";
 }
 
 }  // namespace
