@@ -40,6 +40,7 @@ FuzzHome::FuzzHome() {
   options.teams = 8;
   leaguePath = BuildDemo(state, options).path;
   CopyFolder(home, pristine_);
+  teams_ = state.Teams;
 }
 
 FuzzHome::~FuzzHome() {
@@ -50,6 +51,7 @@ FuzzHome::~FuzzHome() {
 void FuzzHome::Reset(std::initializer_list<const char*> files) {
   for (const char* f : files)
     if (fs::exists(pristine_ / f)) fs::copy_file(pristine_ / f, home / f, fs::copy_options::overwrite_existing);
+  state.Teams = teams_;
   fs::remove_all(scratch);
   fs::create_directories(scratch);
 }

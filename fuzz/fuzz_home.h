@@ -6,6 +6,7 @@
 // (a crash, a sanitizer report, an uncaught exception) is a finding.
 #include <cstddef>
 #include <cstdint>
+#include <array>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -25,7 +26,8 @@ struct FuzzHome {
   FuzzHome& operator=(const FuzzHome&) = delete;
 
   // Empties the scratch folder and puts back these files of the home folder
-  // as they were built (a whole copy each input would be most of the time).
+  // as they were built (a whole copy each input would be most of the time),
+  // and the teams' records held in memory.
   void Reset(std::initializer_list<const char*> files = {});
   // Writes `data` to a file of the scratch folder and returns its path.
   std::filesystem::path Scratch(const std::string& name, std::string_view data) const;
@@ -38,6 +40,7 @@ struct FuzzHome {
 
  private:
   std::filesystem::path pristine_;
+  std::array<Team, kMaxTeams> teams_{};
 };
 
 // The one home of the process, built on first use.

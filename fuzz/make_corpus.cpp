@@ -8,6 +8,7 @@
 #include "fuzz_home.h"
 #include "league/league_files.h"
 #include "season/schedule_form.h"
+#include "team/lines_file.h"
 #include "transactions/database_players.h"
 
 using namespace kvl;
@@ -41,6 +42,29 @@ void LeagueSeeds(FuzzHome& h, const fs::path& dir) {
   Seed(dir, "fuzz_league_files", "no_teams", PackFileSet(seed));
 }
 
+// Team 0's lines as a binary file (after the form byte 0) and as jersey
+// numbers (after the form byte 1): dressed players, a token, rows E1 to K4,
+// the spares and the goalie.
+void LinesSeeds(FuzzHome& h, const fs::path& dir) {
+  LeagueState& s = h.state;
+  loadteam(s, 0, 0);
+  const LineTable& t = s.team(0).Lines;
+  WriteLinesFile(s, h.scratch / "seed.lns", MakeLinesFileRecord(s, 0, 0, t, s.team(0).Password));
+  Seed(dir, "fuzz_lines_files", "binary", std::string(1, '\0') + ReadAll(h.scratch / "seed.lns"));
+  auto num = [&](int slot) { return slot < kRosterSlots ? std::to_string(s.player(0, slot).Num) : std::string("***"); };
+  std::string text = "\x01";
+  for (int slot = 0; slot < kRosterSlots; ++slot)
+    if (s.player(0, slot).list() == 2) text += num(slot) + ",";
+  text += "\nlines\n";
+  constexpr int kSeats[] = {5, 5, 5, 5, 5, 5, 4, 4, 4, 4, 3, 3};
+  for (int row = 0; row < 12; ++row) {
+    for (int seat = 0; seat < kSeats[row]; ++seat) text += num(t.at(row, seat)) + (seat + 1 < kSeats[row] ? "," : "");
+    text += "\n";
+  }
+  text += num(t.at(12, 1)) + "," + num(t.at(12, 2)) + "\n" + num(t.at(12, 0)) + "\n";
+  Seed(dir, "fuzz_lines_files", "text", text);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -51,6 +75,7 @@ int main(int argc, char** argv) {
   const fs::path dir = argv[1];
   FuzzHome& h = Home();
   LeagueSeeds(h, dir);
+  LinesSeeds(h, dir);
   if (!MakeSuggestedSchedule(h.state)) return 1;
   Seed(dir, "fuzz_schedule", "eight_teams", ReadAll(h.state.swap(swp::Schedule)).substr(0, 40 * ScheduleRecord::kSize));
   const std::vector<DbRecord> db = ReadDatabase(h.state);
