@@ -2,6 +2,7 @@
 // the text import. The password, a damaged file and Auto Load Lines are the e2e tests' (golden/lines.txt).
 #include "team/line_editor.h"
 
+#include <cstdlib>
 #include <cstdio>
 #include <fstream>
 #include <map>
@@ -375,7 +376,9 @@ TEST_F(LinesFileTest, MutatedFilesAreTakenOnlyWhenTheTeamCanPlay) {
     WriteText(dir / "t.txt", fmt::format("{}\r\n", fmt::join(tok, ",")));
     outcome("text", LoadLinesFile(h.state, 0, dir / "t.txt").ok, what);
   }
-  for (const auto& [kind, count] : figures) std::printf("%s: %d\n", kind.c_str(), count);
+  // The figures, with --gtest_filter on this test and KVL_LINES_FIGURES=1.
+  if (std::getenv("KVL_LINES_FIGURES"))
+    for (const auto& [kind, count] : figures) std::printf("%s: %d\n", kind.c_str(), count);
   for (const char* kind : {"binary, load-lines", "text"})
     EXPECT_TRUE(figures[std::string(kind) + " taken"] > 0 && figures[std::string(kind) + " refused"] > 0)
         << kind << ": the mutations try both ways";
