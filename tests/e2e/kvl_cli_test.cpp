@@ -146,9 +146,27 @@ TEST(Cli, AnswersSaveAsRenameAndTheShell) {
             "coise de Hocke");
   lg.kvl({"shell"}, "info\nrename-league \"Shell League\"\nsave\nexit\n");
   lg.note("stored: " + lg.storedName());
-  // A wrong command does not end the shell; the end of input answers the exit question no.
-  lg.kvl({"shell"}, "rename-league\nrename-league Unsaved\ninfo\n");
-  lg.note("stored: " + lg.storedName());
+  // A script stops at its first failing command and saves nothing it did not save
+  // itself; a question is never answered by its next line; --keep-going runs on.
+  const std::string script = (lg.dir.path() / "season.kvl").string();
+  const std::string scriptText = "rename-league 'Tampa Bay'  # quoted\n\nplay-games --dayz 5\ninfo\n";
+  WriteText(script, scriptText);
+  const struct {
+    std::vector<std::string> args;
+    std::string input;
+  } scripts[] = {
+      {{"shell", "--script", script}, ""},
+      {{"shell"}, "rename-league 'Tampa Bay'\nload " + lg.path + "\nyes\n"},
+      {{"shell"}, "rename-league Unsaved\n"},
+      {{"--yes", "shell", "--keep-going"},
+       "rename-league \"Tampa\nrename-league\nrename-league 'Tampa'\\ Bay\\ \"\\\"Q\\\"\"\n"},
+  };
+  for (const auto& run : scripts) {
+    std::istringstream lines(run.input.empty() ? scriptText : run.input);
+    for (std::string line; std::getline(lines, line);) lg.note("< " + line);
+    lg.kvl(run.args, run.input);
+    lg.note("stored: " + lg.storedName());
+  }
   lg.expectTranscript(__FILE__, "answers_and_shell.txt");
 }
 
