@@ -103,6 +103,17 @@ std::uint64_t DemoSeed(CLI::App& root, const DemoArgs& a) {
   return global && global->count() > 0 ? global->as<std::uint64_t>() : 1;
 }
 
+// Where a new commissioner looks after the demo.
+std::string DemoNextSteps(const Session& s) {
+  return fmt::format(
+      "What next:\n"
+      "  open {} in a browser: standings, leaders, box scores\n"
+      "  kvl info     the league open now, its teams and the commands it allows\n"
+      "  kvl shell    keep the league open and type commands (help lists them)\n"
+      "  README.md    \"Your first league\": from an empty home folder to a played season\n",
+      (s.home / "Transfer" / "index.html").string());
+}
+
 void RegisterDemo(CLI::App& app, Session& s) {
   auto a = std::make_shared<DemoArgs>();
   CLI::App* cmd = AddCommand(app, s, "demo",
@@ -110,7 +121,7 @@ void RegisterDemo(CLI::App& app, Session& s) {
                              "coached, rosters and lines set, scheduled, its season played and saved",
                              false, [&s, &app, a] {
                                DemoSummary d = RunDemo(s.state, {a->teams, DemoSeed(app, *a)});
-                               s.ui.print(DemoSummaryText(s.state, d));
+                               s.ui.print(DemoSummaryText(s.state, d) + DemoNextSteps(s));
                              });
   cmd->add_option("--teams", a->teams, "teams in the league, 8 to 50 (default 24)")->check(CLI::Range(kDemoMinTeams, kDemoMaxTeams));
   cmd->add_option("--seed", a->seed, "the seed of the league's draws (default: the run's --seed, else 1)");
