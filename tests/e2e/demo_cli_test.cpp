@@ -49,6 +49,15 @@ TEST(DemoCli, TheSameSeedMakesTheSameLeague) {
   ASSERT_EQ(again.kvl({"demo", "--teams", "8", "--seed", "7"}).status, 0);
   EXPECT_EQ(SnapshotDir(again.home, "Demo"), SnapshotDir(DemoHome(), "Demo"));
   again.kvlEach({{"info"}, {"view-all-coaches"}, {"view-team", "0"}, {"view-team", "7"}});
+  // The season played, at a glance.
+  const std::string season = (again.home / "Demo").string();
+  again.kvlEach({{"--league", season, "standings"},
+                 {"--league", season, "standings", "--by", "league", "--csv"},
+                 {"--league", season, "leaders", "--top", "3"},
+                 {"--league", season, "leaders", "--category", "save", "--top", "3"},
+                 {"find-player", "SJOBERG"},
+                 {"free-agents", "--pos", "d", "--sort", "age", "--top", "3"},
+                 {"free-agents", "--sort", "salary", "--top", "2", "--csv"}});
   again.kvl({"demo", "--teams", "51"});
   again.kvl({"demo", "--help"});
   again.expectTranscript(__FILE__, "demo.txt");
