@@ -25,7 +25,9 @@ void RegisterNew(CLI::App& app, Session& s) {
   auto o = std::make_shared<NewOptions>();
   CLI::App* cmd = AddCommand(app, s, "new", "Create a new league, with no teams, from a player database", false, [&s, o] {
     NewLeagueChoice choice;
-    if (!o->database.empty()) choice.database = fs::absolute(o->database);
+    // A bare name is the home folder's, as the bundled default.drs.
+    if (!o->database.empty())
+      choice.database = fs::path(o->database).has_parent_path() ? fs::absolute(o->database) : s.home / o->database;
     if (!o->name.empty()) choice.name = Utf8ToCp1252(o->name);
     if (!CreateLeague(s.state, choice)) throw Refused("no league made");
     if (!o->saveAs.empty() && !MainConsole(s.state).SaveAs(NewLeagueFile(s, o->saveAs))) throw Refused("not saved");
@@ -33,7 +35,7 @@ void RegisterNew(CLI::App& app, Session& s) {
                "\" created with no teams. Add teams with the align commands, then fill them with "
                "assign-unused --auto.\n");
   });
-  cmd->add_option("--database", o->database, "the player database (.drs) instead of the file question");
+  cmd->add_option("--database", o->database, "the player database (.drs) instead of the file question; a name without a folder is the home folder's (default.drs)");
   cmd->add_option("--name", o->name, "the league's name instead of the prompt (25 characters at most)");
   cmd->add_option("--save-as", o->saveAs,
                   "save the new league at once under this file (.lge added when missing; a name without a folder "
