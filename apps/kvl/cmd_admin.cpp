@@ -35,7 +35,9 @@ void RegisterNew(CLI::App& app, Session& s) {
                "\" created with no teams. Add teams with the align commands, then fill them with "
                "assign-unused --auto.\n");
   });
-  cmd->add_option("--database", o->database, "the player database (.drs) instead of the file question; a name without a folder is the home folder's (default.drs)");
+  cmd->add_option("--database", o->database,
+                  "the player database (.drs) instead of the file question; a name without a folder is the home "
+                  "folder's (default.drs)");
   cmd->add_option("--name", o->name, "the league's name instead of the prompt (25 characters at most)");
   cmd->add_option("--save-as", o->saveAs,
                   "save the new league at once under this file (.lge added when missing; a name without a folder "

@@ -35,8 +35,11 @@ std::string TableText(const TextTable& t, bool csv) {
     std::string out;
     for (std::size_t i = 0; i < cells.size(); ++i) {
       const Column& c = t.columns[i];
-      if (csv) out += (i ? "," : "") + csvField(cells[i]);
-      else out += (i ? " " : "") + (c.left ? fmt::format("{:<{}}", cells[i], c.width) : fmt::format("{:>{}}", cells[i], c.width));
+      if (csv)
+        out += (i ? "," : "") + csvField(cells[i]);
+      else
+        out += (i ? " " : "") +
+               (c.left ? fmt::format("{:<{}}", cells[i], c.width) : fmt::format("{:>{}}", cells[i], c.width));
     }
     while (!csv && !out.empty() && out.back() == ' ') out.pop_back();
     return out + "\n";

@@ -63,7 +63,8 @@ std::vector<FoundPlayer> FindPlayers(LeagueState& s, const std::string& text) {
   ForEachLoadedTeam(s, [&](int team) {
     for (int slot = 0; slot < kRosterSlots; ++slot) {
       const Player& p = s.player(0, slot);
-      if (!p.empty() && matches(p.Name.str())) found.push_back({p.Name.str(), team, slot, p.Pos, p.Age, Overall(p), RosterStatus(p)});
+      if (!p.empty() && matches(p.Name.str()))
+        found.push_back({p.Name.str(), team, slot, p.Pos, p.Age, Overall(p), RosterStatus(p)});
     }
     const ProspectList& l = s.Prospects[0];
     for (std::size_t i = 0; i < kMaxProspects; ++i)
