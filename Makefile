@@ -29,7 +29,10 @@ build: bootstrap $(BUILD)/CMakeCache.txt
 build-asan: bootstrap $(ASAN)/CMakeCache.txt
 	cmake --build $(ASAN) -j $(JOBS)
 
-demo: build
+# The demo needs only the program: the test suite and the benchmarks are built by
+# `make test` and `make bench`.
+demo: bootstrap $(BUILD)/CMakeCache.txt
+	cmake --build $(BUILD) --target kvl -j $(JOBS)
 	$(BUILD)/kvl demo
 
 test: test-release test-asan

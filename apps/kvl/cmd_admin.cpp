@@ -25,7 +25,9 @@ void RegisterNew(CLI::App& app, Session& s) {
   auto o = std::make_shared<NewOptions>();
   CLI::App* cmd = AddCommand(app, s, "new", "Create a new league, with no teams, from a player database", false, [&s, o] {
     NewLeagueChoice choice;
-    if (!o->database.empty()) choice.database = fs::absolute(o->database);
+    // A bare name is the home folder's, as the bundled default.drs.
+    if (!o->database.empty())
+      choice.database = fs::path(o->database).has_parent_path() ? fs::absolute(o->database) : s.home / o->database;
     if (!o->name.empty()) choice.name = Utf8ToCp1252(o->name);
     if (!CreateLeague(s.state, choice)) throw Refused("no league made");
     if (!o->saveAs.empty() && !MainConsole(s.state).SaveAs(NewLeagueFile(s, o->saveAs))) throw Refused("not saved");
@@ -33,7 +35,9 @@ void RegisterNew(CLI::App& app, Session& s) {
                "\" created with no teams. Add teams with the align commands, then fill them with "
                "assign-unused --auto.\n");
   });
-  cmd->add_option("--database", o->database, "the player database (.drs) instead of the file question");
+  cmd->add_option("--database", o->database,
+                  "the player database (.drs) instead of the file question; a name without a folder is the home "
+                  "folder's (default.drs)");
   cmd->add_option("--name", o->name, "the league's name instead of the prompt (25 characters at most)");
   cmd->add_option("--save-as", o->saveAs,
                   "save the new league at once under this file (.lge added when missing; a name without a folder "
@@ -103,6 +107,17 @@ std::uint64_t DemoSeed(CLI::App& root, const DemoArgs& a) {
   return global && global->count() > 0 ? global->as<std::uint64_t>() : 1;
 }
 
+// Where a new commissioner looks after the demo.
+std::string DemoNextSteps(const Session& s) {
+  return fmt::format(
+      "What next:\n"
+      "  open {} in a browser: standings, leaders, box scores\n"
+      "  kvl info     the league open now, its teams and the commands it allows\n"
+      "  kvl shell    keep the league open and type commands (help lists them)\n"
+      "  README.md    \"Your first league\": from an empty home folder to a played season\n",
+      (s.home / "Transfer" / "index.html").string());
+}
+
 void RegisterDemo(CLI::App& app, Session& s) {
   auto a = std::make_shared<DemoArgs>();
   CLI::App* cmd = AddCommand(app, s, "demo",
@@ -110,7 +125,7 @@ void RegisterDemo(CLI::App& app, Session& s) {
                              "coached, rosters and lines set, scheduled, its season played and saved",
                              false, [&s, &app, a] {
                                DemoSummary d = RunDemo(s.state, {a->teams, DemoSeed(app, *a)});
-                               s.ui.print(DemoSummaryText(s.state, d));
+                               s.ui.print(DemoSummaryText(s.state, d) + DemoNextSteps(s));
                              });
   cmd->add_option("--teams", a->teams, "teams in the league, 8 to 50 (default 24)")->check(CLI::Range(kDemoMinTeams, kDemoMaxTeams));
   cmd->add_option("--seed", a->seed, "the seed of the league's draws (default: the run's --seed, else 1)");

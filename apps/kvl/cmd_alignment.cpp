@@ -1,5 +1,7 @@
 // League administration on the command line: align, options, and the team and
 // player cards.
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cctype>
 #include <memory>
@@ -52,7 +54,15 @@ void AddTeamArg(CLI::App* cmd, const AlignArgs& a) {
 void RegisterAlignEdits(CLI::App* align, Session& s) {
   AlignArgs a;
   auto* add = AddCommand(*align, s, "add", "Add a team at the end of a division (prompts for the name when not given)", true,
-                         [&s, a] { OpenAlign(s).cmdAdd(*a.conf - 1, *a.div - 1, a.givenName()); });
+                         [&s, a] {
+                           if (!OpenAlign(s).cmdAdd(*a.conf - 1, *a.div - 1, a.givenName())) return;
+                           const Team& t = s.state.team(s.state.numTeams() - 1);
+                           s.ui.print(fmt::format(
+                               "{} ({}) starts with 0 seats, a $0 ticket and $0 cash, as every new team. Set them "
+                               "with: kvl view-team {} --set Seats=17000 --set Ticket=45 --set CurFin=5000000 "
+                               "(or view-team ALL for every team)\n",
+                               Cp1252ToUtf8(t.Name.str()), t.Abbrev.str(), t.Abbrev.str()));
+                         });
   AddNumber(add, "CONF", a.conf, "conference, 1 or 2");
   AddNumber(add, "DIV", a.div, "division within the conference, from 1");
   add->add_option("NAME", *a.name, "the team's name (10 characters are kept)");
@@ -161,6 +171,21 @@ void ApplyEdits(Session& s, Card& card, const std::vector<Field>& fields, const 
   for (const auto& name : *a.edits) card.edit(FindField(s, fields, name, title));
 }
 
+// "ALL", or teams apart by commas, each by number, name or abbreviation.
+std::vector<int> TeamsNamed(Session& s, const std::string& arg) {
+  std::vector<int> teams;
+  if (CLI::detail::to_lower(arg) == "all") {
+    for (int t = 0; t < s.state.numTeams(); ++t) teams.push_back(t);
+    return teams;
+  }
+  for (std::size_t from = 0; from <= arg.size();) {
+    const std::size_t comma = std::min(arg.find(',', from), arg.size());
+    teams.push_back(ResolveTeam(s.state, arg.substr(from, comma - from)));
+    from = comma + 1;
+  }
+  return teams;
+}
+
 // Loads the team into side 0 as the cards expect it, as CurTeam.
 int OpenTeam(Session& s, const std::string& arg) {
   int t = ResolveTeam(s.state, arg);
@@ -173,13 +198,17 @@ void RegisterCards(CLI::App& app, Session& s) {
   CardArgs a;
   auto* team = AddCommand(app, s, "view-team", "Show a team's card, with its revenue estimate, and edit its fields", true,
                           [&s, a] {
-                            OpenTeam(s, *a.team);
-                            TeamCard card(s.state, 0);
-                            ApplyEdits(s, card, TeamFields(), a, "View Team");
-                            s.ui.print(card.Text());
-                            card.Close();
+                            for (int t : TeamsNamed(s, *a.team)) {
+                              OpenTeam(s, std::to_string(t));
+                              TeamCard card(s.state, 0);
+                              ApplyEdits(s, card, TeamFields(), a, "View Team");
+                              s.ui.print(card.Text());
+                              card.Close();
+                            }
                           });
-  team->add_option("TEAM", *a.team, "the team, by number, name or abbreviation")->required();
+  team->add_option("TEAM", *a.team,
+                   "the team, by number, name or abbreviation; several with commas (BOS,NYR), or ALL")
+      ->required();
   AddEditOptions(team, a, FieldNames(TeamFields()) + " (CurFin adds to the cash: -$5000 deducts)");
 
   CardArgs b;

@@ -44,6 +44,10 @@ std::string EntryBoard(LeagueState& st, bool available) {
     out += form.caption() + "\n";
     out += fmt::format("Pick {} (overall {}): {} on the clock", t.pick + 1, t.overall, st.team(t.holder).Name.str());
     out += t.origTeam != t.holder ? fmt::format(" (pick from {})\n", st.team(t.origTeam).Name.str()) : "\n";
+    out += fmt::format("Order of round {}:\n", t.round + 1);
+    const std::vector<std::string> order = RoundOrderLines(st, t.round);
+    for (std::size_t i = 0; i < order.size(); ++i)
+      out += order[i] + (static_cast<int>(i) == t.pick ? "  <- on the clock\n" : "\n");
   } else {
     out += "No entry draft is under way.\n";
   }

@@ -1,5 +1,6 @@
 // Rosters, lines and coaches: set-roster, set-lines, auto-all and the coach commands.
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <memory>
@@ -188,6 +189,8 @@ void ShowLines(Session& s, const LineEditor& e) {
   std::string out = e.caption() + "\n";
   for (int page : {kEvenPage, kPowerPlayPage, kPenaltyKillPage}) out += LinePageText(e, s.state, page);
   out += GoalieRowText(e, s.state) + AssignmentsText(e, s.state);
+  if (auto seats = EmptySeats(e.LineBuf); !seats.empty())
+    out += fmt::format("Empty seats ({}): {}\n", seats.size(), fmt::join(seats, ", "));
   s.ui.print(out);
 }
 
@@ -225,7 +228,9 @@ void RegisterSetLines(CLI::App& app, Session& s) {
   cmd->add_option("--place", a->place,
                   "ROW:SLOT=PLAYER: put roster slot PLAYER on a row (E1-E4, P1-P4, K1-K4) at SLOT from 0, or in "
                   "the goalie row G (0 starter, 1 and 2 spares)");
-  cmd->footer("Slots per row: 5 on E1-P2 (C LW RW D D), 4 on P3-K2 (C W D D), 3 on K3-K4 (C D D).");
+  cmd->footer("Slots per row: 5 on E1-P2 (C LW RW D D), 4 on P3-K2 (C W D D), 3 on K3-K4 (C D D). The table "
+              "shows its empty seats by name (E1:2 (RW)); placements go into an incomplete table, and are kept only "
+              "when the table is complete after them (else exit 1, nothing changed).");
 }
 
 // --- auto-all ---------------------------------------------------------------

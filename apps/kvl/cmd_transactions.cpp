@@ -1,12 +1,15 @@
 // Waivers, free agents and random contracts.
 #include <fmt/format.h>
 
+#include "cmd_glance.h"
 #include "console/league_view.h"
 #include "league/tables.h"
+#include "reports/glance.h"
 #include "session.h"
 #include "transactions/free_agents.h"
 #include "transactions/waivers.h"
 #include "ui/ui.h"
+#include "util/cp1252.h"
 #include "util/error.h"
 #include "util/numbers.h"
 
@@ -94,20 +97,34 @@ struct SignArgs {
   std::optional<double> salary;
   std::optional<int> years;
   bool output = false;
+  std::string pos, sort;
+  std::size_t top = 0;
+  bool csv = false;
 };
+
+// The list as it stands, or chosen and sorted when --pos, --sort or --top asks.
+void PrintFreeAgents(Session& s, std::vector<FreeAgentEntry> list, const SignArgs& a) {
+  if (!a.pos.empty() || !a.sort.empty() || a.top > 0) {
+    const std::optional<int> pos = PosNumber(a.pos);
+    const FreeAgentOrder order = a.sort == "age"      ? FreeAgentOrder::Age
+                                 : a.sort == "salary" ? FreeAgentOrder::Salary
+                                                      : FreeAgentOrder::Overall;
+    list = ChooseFreeAgents(std::move(list), pos, order, a.top > 0 ? a.top : list.size());
+  }
+  TextTable t{{{"No", 5}, {"Player", 22, true}, {"Pos", 3}, {"Age", 3}, {"Kind", 4, true}, {"Salary", 10}, {"OV", 3}},
+              {}};
+  for (const FreeAgentEntry& e : list)
+    t.rows.push_back({std::to_string(e.record), Cp1252ToUtf8(e.name),
+                      PosText(e.pos), std::to_string(e.age), e.unrestricted ? "UFA" : "RFA",
+                      a.csv ? std::to_string(e.salary) : FormatNumber(e.salary, "#,000"), std::to_string(e.overall)});
+  s.ui.print(TableText(t, a.csv));
+}
 
 void RunFreeAgents(Session& s, const SignArgs& a) {
   FreeAgents form(s.state);
   if (a.output) return s.ui.print("Written " + form.cmdOutput().string() + "\n");
   const std::vector<FreeAgentEntry> list = form.list();
-  if (a.sign.empty()) {
-    std::string text = "  No  Player                  Pos Age     Salary  OV\n";
-    for (const FreeAgentEntry& e : list)
-      text += fmt::format("{:>4}  {:<22}  {:>2} {:>3} {} {:>10}  {:>2}\n", e.record, e.name,
-                          PosName[static_cast<std::size_t>(e.pos)], e.age, e.unrestricted ? "UFA" : "RFA",
-                          FormatNumber(e.salary, "#,000"), e.overall);
-    return s.ui.print(text);
-  }
+  if (a.sign.empty()) return PrintFreeAgents(s, list, a);
   if (a.team.empty()) {
     s.ui.tell("Name the team that signs the player: free-agents TEAM --sign PLAYER", "Sign Free Agent");
     throw Refused("no team");
@@ -130,6 +147,14 @@ void RegisterFreeAgents(CLI::App& app, Session& s) {
   cmd->add_option("--salary", a->salary, "salary in dollars, 0 to 99,999,999")->needs(sign);
   cmd->add_option("--years", a->years, "contract length, 1 to 10 years")->needs(sign);
   cmd->add_flag("--output", a->output, "write the FreeAgents.html page")->excludes(sign);
+  cmd->add_option("--pos", a->pos, "list only this position")
+      ->check(CLI::IsMember({"C", "LW", "RW", "D", "G"}, CLI::ignore_case))
+      ->excludes(sign);
+  cmd->add_option("--sort", a->sort, "overall (best first), age (youngest first) or salary (dearest first)")
+      ->check(CLI::IsMember({"overall", "age", "salary"}))
+      ->excludes(sign);
+  cmd->add_option("--top", a->top, "list only the first N")->check(kPositiveWhole)->excludes(sign);
+  cmd->add_flag("--csv", a->csv, "comma-separated values for a spreadsheet")->excludes(sign);
 }
 
 void RegisterRandomContracts(CLI::App& app, Session& s) {

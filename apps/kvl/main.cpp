@@ -74,8 +74,14 @@ int Main(int argc, char** argv) {
   AddGlobalOptions(app, g);
   Session s(fs::path{});
   bool shell = false;
-  app.add_subcommand("shell", "An interactive console that keeps the league open across commands")
-      ->callback([&] { shell = true; });
+  ShellOptions shellOpt;
+  CLI::App* shellCmd =
+      app.add_subcommand("shell", "An interactive console that keeps the league open across commands; fed from a "
+                                  "file or a pipe, a script");
+  shellCmd->add_option("--script", shellOpt.script, "read the commands from this file")->check(CLI::ExistingFile);
+  shellCmd->add_flag("--keep-going", shellOpt.keepGoing,
+                     "run a script on past failed commands, ending with the worst status");
+  shellCmd->callback([&] { shell = true; });
   RegisterAllCommands(app, s);
   s.commands = CommandNames(app);
   try {
@@ -90,7 +96,7 @@ int Main(int argc, char** argv) {
   ApplyAnswers(s, g);
   TerminalUi::InstallStopHandler();
   HomeLock lock;
-  if (shell) return RunShell(s, lock);
+  if (shell) return RunShell(s, lock, shellOpt);
   return RunOnce(s, lock);
 }
 

@@ -51,6 +51,7 @@ void RegisterTradeCommands(CLI::App& app, Session& s);
 void RegisterDraftCommands(CLI::App& app, Session& s);
 void RegisterLinesCommands(CLI::App& app, Session& s);
 void RegisterPlayerCommands(CLI::App& app, Session& s);
+void RegisterGlanceCommands(CLI::App& app, Session& s);
 
 inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterLeagueCommands(app, s);
@@ -66,6 +67,7 @@ inline void RegisterAllCommands(CLI::App& app, Session& s) {
   RegisterDraftCommands(app, s);
   RegisterLinesCommands(app, s);
   RegisterPlayerCommands(app, s);
+  RegisterGlanceCommands(app, s);
 }
 
 // A league file named for a save under a new name: ".lge" added when missing,

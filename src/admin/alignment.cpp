@@ -68,7 +68,11 @@ bool AlignLeague::cmdAdd(int conf, int div, std::optional<std::string> name) {
   // A league loaded without a priority list gets a whole one, not a list with
   // only the new team in it.
   bool noPriority = !fs::exists(s_.swap(swp::Priority));
-  AddTeam(s_, name->substr(0, 10), conf, div);
+  if (name->size() > Team{}.Name.size())
+    s_.ui.tell(fmt::format("\"{}\" is longer than a team's name, {} characters: the team is named \"{}\".", *name,
+                           Team{}.Name.size(), name->substr(0, Team{}.Name.size())),
+               "Add Team");
+  AddTeam(s_, name->substr(0, Team{}.Name.size()), conf, div);
   if (noPriority) MakePriority(s_);
   return true;
 }

@@ -33,13 +33,36 @@ void BlankTeamFiles(LeagueState& s, int team) {
 
 }  // namespace
 
+std::string UniqueAbbrev(const LeagueState& s, int team, const std::string& name) {
+  const std::string first = Upper(name.substr(0, 3));
+  std::string letters;
+  for (char c : Upper(name))
+    if (std::isalnum(static_cast<unsigned char>(c))) letters += c;
+  std::vector<std::string> candidates{first};
+  for (std::size_t i = 1; i < letters.size(); ++i)
+    for (std::size_t j = i + 1; j < letters.size(); ++j) candidates.push_back({letters[0], letters[i], letters[j]});
+  for (char digit = '2'; digit <= '9'; ++digit) candidates.push_back(first.substr(0, 2) + digit);
+  for (const std::string& c : candidates)
+    if (!AbbrevTaken(s, team, c)) return c;
+  return first;
+}
+
+bool AbbrevTaken(const LeagueState& s, int team, const std::string& abbrev) {
+  // The record keeps no trailing blanks: "LA " is stored as "LA".
+  std::string wanted = Upper(abbrev.substr(0, Team{}.Abbrev.size()));
+  while (!wanted.empty() && wanted.back() == ' ') wanted.pop_back();
+  for (int t = 0; t < s.numTeams(); ++t)
+    if (t != team && Upper(s.team(t).Abbrev.str()) == wanted) return true;
+  return false;
+}
+
 void TeamDefaultFiles(LeagueState& s, int team) {
   Team& t = s.team(team);
   Team fresh;
   fresh.Name = t.Name;
   fresh.Conf = t.Conf;
   fresh.Div = t.Div;
-  fresh.Abbrev.set(Upper(t.Name.str().substr(0, 3)));
+  fresh.Abbrev.set(UniqueAbbrev(s, team, t.Name.str()));
   fresh.Lines.cells.fill(kNoPlayer);
   fresh.Priority = static_cast<u8>(team);
   t = fresh;

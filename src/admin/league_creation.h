@@ -13,6 +13,13 @@ namespace kvl {
 // Name, Conf and Div, set by whoever adds the team, are kept.
 void TeamDefaultFiles(LeagueState& s, int team);
 
+// A new team's abbreviation: the name's first three letters in capitals, or,
+// when another team has them, the first letter with two later ones, then the
+// first two with a digit.
+std::string UniqueAbbrev(const LeagueState& s, int team, const std::string& name);
+// True when a team other than `team` has `abbrev`, in any case.
+bool AbbrevTaken(const LeagueState& s, int team, const std::string& abbrev);
+
 // Puts a new team in the last slot, in division `div` of conference `conf`,
 // and gives it its default files. Returns its index. The caller checks room:
 // at most kMaxTeams teams and 10 a division.

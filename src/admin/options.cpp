@@ -196,8 +196,25 @@ void Options::ApplySimulator() {
   lg.PointSystem = static_cast<u8>(c_.optPointSystem);
 }
 
+namespace {
+
+// With money on a team earns at the gate only with seats and a ticket price;
+// a new team has neither.
+void TellTeamsWithoutGate(LeagueState& s) {
+  std::string names;
+  for (int t = 0; t < s.numTeams(); ++t)
+    if (s.team(t).Seats == 0 || s.team(t).Ticket == 0) names += (names.empty() ? "" : ", ") + s.team(t).Name.str();
+  if (!names.empty())
+    s.ui.tell("Money is on, and these teams have no seats or no ticket price, so they earn nothing at the gate: " +
+                  names + ". Set them on the team card (Seats, Ticket).",
+              "Options");
+}
+
+}  // namespace
+
 void Options::cmdApply() {
   League& lg = s_.league;
+  const bool moneyWas = lg.OptMoney != 0;
   WriteLinesDirectory(s_.AppPath, c_.Text1[5]);
   lg.SeedDivLeaders = ToBool16(c_.Check3);
   for (std::size_t i = 1; i < c_.Check.size(); ++i) lg.CheckFlags[i] = c_.Check[i] ? 1 : 0;
@@ -210,6 +227,7 @@ void Options::cmdApply() {
   if (!lg.InPlayoffs) lg.PlayoffSize = static_cast<u8>(c_.Option4 == 0 ? 0 : c_.Option4 == 1 ? 1 : 2);
   dirty_ = false;
   s_.Dirty = true;
+  if (!moneyWas && lg.OptMoney != 0) TellTeamsWithoutGate(s_);
 }
 
 void Options::cmdClose() {

@@ -36,9 +36,11 @@ void WriteDefaultFiles(const fs::path& dir, bool replace) {
     if (wanted(name)) WriteFileAtomic(dir / name, DefaultDataFile(name));
 }
 
-void PrepareHomeFolder(const fs::path& home) {
+bool PrepareHomeFolder(const fs::path& home) {
   for (const char* dir : {"Headers", "Transfer", "Boxscores", "Command"}) fs::create_directories(home / dir);
+  const bool fresh = !fs::exists(home / "default.lge");
   WriteDefaultFiles(home, false);
+  return fresh;
 }
 
 namespace {
@@ -66,16 +68,24 @@ std::string SearchHome(const fs::path& home) {
 
 }  // namespace
 
-std::string FindStartLeague(LeagueState& s) {
+std::string FindStartLeague(LeagueState& s, bool freshHome) {
   bool hasDef = fs::exists(s.AppPath / "kvl.def");
   std::string path = hasDef ? ReadKvlDef(s.AppPath) : "";
   if (hasDef && !path.empty() && fs::exists(FindLeagueFile(path, ".lge"))) return path;
+  std::string found = SearchHome(s.AppPath);
+  // Nothing was lost: no league was ever opened here, so there is nothing to warn of.
+  if (path.empty() && found.empty()) {
+    if (freshHome)
+      s.ui.tell("New home folder " + s.AppPath.string() +
+                    ": the default files were written (default.lge, default.coa, default.drs, inj.dtf).",
+                "KVL");
+    return found;
+  }
   if (!path.empty())
     s.ui.tell("The last league files you loaded, " + path + "\nare not accessible.\n\nKVL will search for other league files.",
               "Load Last League");
   else
     s.ui.tell("KVL was unable to find default league files.\nKVL will search for league files.", "Load Default League");
-  std::string found = SearchHome(s.AppPath);
   if (found.empty())
     s.ui.tell("Searching " + s.AppPath.string() +
                   " did not reveal any league files.\nYou must load new league files using the File|Load menu.",
@@ -85,9 +95,9 @@ std::string FindStartLeague(LeagueState& s) {
 
 void StartUp(LeagueState& s, const std::optional<std::string>& league) {
   try {
-    PrepareHomeFolder(s.AppPath);
-    std::string path =
-        league ? fs::absolute(StripLeagueExtension(*league)).lexically_normal().string() : FindStartLeague(s);
+    const bool fresh = PrepareHomeFolder(s.AppPath);
+    std::string path = league ? fs::absolute(StripLeagueExtension(*league)).lexically_normal().string()
+                              : FindStartLeague(s, fresh);
     if (!path.empty()) LoadLg(s, path);
   } catch (const FatalStop&) {
     throw;  // already told

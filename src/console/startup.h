@@ -24,11 +24,14 @@ League DefaultLeagueHeader();
 // Writes the bundled default files (default.lge, default.coa, default.drs,
 // inj.dtf) into `dir`; with `replace` false only those that are missing.
 void WriteDefaultFiles(const fs::path& dir, bool replace);
-// Creates the folders and the default files when missing.
-void PrepareHomeFolder(const fs::path& home);
+// Creates the folders and the default files when missing; true for a new home
+// folder (default.lge was missing).
+bool PrepareHomeFolder(const fs::path& home);
 // Finds the league to open (kvl.def, else a search of the home folder), telling
-// as the old console did. Empty when there is none.
-std::string FindStartLeague(LeagueState& s);
+// as the old console did when a league was lost or none is found. A home folder
+// where no league was ever loaded or made starts quietly, a new one (`freshHome`)
+// with one line saying the default files were written. Empty when there is none.
+std::string FindStartLeague(LeagueState& s, bool freshHome);
 // The whole start-up after the lock: folders, defaults, then `league` when given
 // (without extension), else the last league, loaded.
 void StartUp(LeagueState& s, const std::optional<std::string>& league);

@@ -87,6 +87,8 @@ class TeamCard {
  private:
   std::string PromptText(const TeamField& field) const;
   bool Store(const TeamField& field, const std::string& answer);
+  // Tells a typed text the record cuts, with what it becomes.
+  void TellCut(const std::string& answer, std::size_t room, const char* what) const;
 
   LeagueState& s_;
   int side_;

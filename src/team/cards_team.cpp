@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "admin/league_creation.h"
 #include "league/league_files.h"
 #include "league/ratings.h"
 #include "team/cards.h"
@@ -112,10 +113,29 @@ std::string TeamCard::PromptText(const TeamField& field) const {
   return field.prompt;
 }
 
+void TeamCard::TellCut(const std::string& answer, std::size_t room, const char* what) const {
+  if (answer.size() > room)
+    s_.ui.tell(fmt::format("\"{}\" is longer than a team's {}, {} characters: it becomes \"{}\".", answer, what, room,
+                           answer.substr(0, room)),
+               "View Team");
+}
+
 bool TeamCard::Store(const TeamField& field, const std::string& answer) {
   switch (field.control) {
-    case TeamControl::lblTeam: t_.Name.set(answer); return true;
-    case TeamControl::lblAbbrev: t_.Abbrev.set(answer); return true;
+    case TeamControl::lblTeam:
+      TellCut(answer, t_.Name.size(), "name");
+      t_.Name.set(answer);
+      return true;
+    case TeamControl::lblAbbrev:
+      if (AbbrevTaken(s_, team_, answer.substr(0, t_.Abbrev.size()))) {
+        s_.ui.tell(fmt::format("{} is another team's abbreviation already; each team's is its own. It stays {}.",
+                               answer.substr(0, t_.Abbrev.size()), t_.Abbrev.str()),
+                   field.title);
+        return false;
+      }
+      TellCut(answer, t_.Abbrev.size(), "abbreviation");
+      t_.Abbrev.set(answer);
+      return true;
     case TeamControl::lblArena: t_.Arena.set(answer); return true;
     case TeamControl::lblOwner: t_.Owner.set(answer); return true;
     case TeamControl::lblPassword: t_.Password.set(answer); return true;

@@ -57,12 +57,21 @@ void ForceUnusedSlots(LineTable& t) {
   for (int row = 10; row < kLineRows; ++row) t.at(row, 3) = kNoPlayer;
 }
 
-bool LinesComplete(const LineTable& t) {
+std::vector<std::string> EmptySeats(const LineTable& t) {
+  static constexpr std::array<std::string_view, 3> kGoalieSeats{"starting goalie", "spare 1", "spare 2"};
+  std::vector<std::string> seats;
   for (int row = 0; row < kLineRows; ++row)
-    for (int slot = 0; slot < SlotsInRow(row); ++slot)
-      if (t.at(row, slot) > 254) return false;
-  return true;
+    for (int slot = 0; slot < SlotsInRow(row); ++slot) {
+      if (t.at(row, slot) <= 254) continue;
+      const bool goalie = row == kGoalieRow;
+      seats.push_back((goalie ? std::string("G") : RowLabel(row)) + ":" + std::to_string(slot) + " (" +
+                      std::string(goalie ? kGoalieSeats[static_cast<std::size_t>(slot)] : SlotHeading(row, slot)) +
+                      ")");
+    }
+  return seats;
 }
+
+bool LinesComplete(const LineTable& t) { return EmptySeats(t).empty(); }
 
 bool RemoveFromLines(LineTable& t, int index) {
   bool found = false;

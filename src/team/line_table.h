@@ -3,6 +3,7 @@
 // captions, and the tests that make a table playable.
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "league/records.h"
 
@@ -34,6 +35,9 @@ std::string_view SlotHeading(int row, int slot);
 void ForceUnusedSlots(LineTable& t);
 // True when every used slot, the goalie row's three included, holds a player.
 bool LinesComplete(const LineTable& t);
+// The used slots that hold no player, named as a placement reads them with the
+// seat after it: "E1:2 (RW)", "G:0 (starting goalie)".
+std::vector<std::string> EmptySeats(const LineTable& t);
 // Empties every entry holding `index` in rows 0..11 and in slots 0..3 of the
 // goalie row; true when one was found.
 bool RemoveFromLines(LineTable& t, int index);

@@ -1,8 +1,11 @@
 #include "transactions/draft_lottery.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <numeric>
 
+#include "transactions/draft_turn.h"
 #include "ui/ui.h"
 #include "util/numbers.h"
 
@@ -57,6 +60,31 @@ void DraftLottery(LeagueState& s) {
   const LotteryDraw d = DrawDraftLottery(priority, missed, s.rnd());
   for (std::size_t place = 0; place < d.order.size(); ++place)
     s.team(d.order[place]).DraftOrder = static_cast<u8>(place);
+  std::string shown = LotteryMoveText(s).value_or(
+      d.winner < 0 ? "Draft lottery: no ticket was drawn."
+                   : "Draft lottery: " + s.team(d.winner).Name.str() + " won and keeps pick 1.");
+  shown += "\nFirst round:\n";
+  for (const std::string& line : RoundOrderLines(s, 0)) shown += line + "\n";
+  s.ui.print(shown);
+}
+
+namespace {
+std::vector<int> Order(const LeagueState& s, u8 Team::*place) {
+  std::vector<int> places;
+  for (int t = 0; t < s.numTeams(); ++t) places.push_back(s.team(t).*place);
+  return TeamsByPlace(places);
+}
+}  // namespace
+
+std::optional<std::string> LotteryMoveText(const LeagueState& s) {
+  const std::vector<int> before = Order(s, &Team::Priority), after = Order(s, &Team::DraftOrder);
+  const auto moved = std::mismatch(before.begin(), before.end(), after.begin());
+  if (moved.first == before.end()) return std::nullopt;
+  const int winner = *moved.second;
+  const auto from = std::find(before.begin(), before.end(), winner) - before.begin();
+  const auto to = moved.second - after.begin();
+  return fmt::format("Draft lottery: {}, pick {} before the draw, moved to pick {}.", s.team(winner).Name.str(),
+                     from + 1, to + 1);
 }
 
 }  // namespace kvl

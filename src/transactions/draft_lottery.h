@@ -1,6 +1,8 @@
 #pragma once
 // The draft lottery: the teams that missed the playoffs hold tickets, the
 // worst the most, and one draw lets its winner move up at most four places.
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "league/league_state.h"
@@ -23,7 +25,12 @@ LotteryDraw DrawDraftLottery(const std::vector<int>& priority, int missed, doubl
 // Teams in the order of their places, ties by team number.
 std::vector<int> TeamsByPlace(const std::vector<int>& place);
 
-// Sets every team's DraftOrder by lottery, telling which teams take part.
+// Sets every team's DraftOrder by lottery, telling which teams take part,
+// then prints the draw and the first round's order.
 void DraftLottery(LeagueState& s);
+// The lottery's winner read back from the order it left: the team placed ahead
+// of its waiver place, as "Draft lottery: X, pick 7 before the draw, moved to
+// pick 3."; none when the order is the places' own.
+std::optional<std::string> LotteryMoveText(const LeagueState& s);
 
 }  // namespace kvl

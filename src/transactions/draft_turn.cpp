@@ -1,5 +1,7 @@
 #include "transactions/draft_turn.h"
 
+#include <fmt/format.h>
+
 #include "transactions/draft_lottery.h"
 #include "transactions/draft_picks.h"
 
@@ -19,6 +21,23 @@ DraftTurn TurnAt(LeagueState& s, int round, int pick) {
       }
   }
   return turn;
+}
+
+std::vector<DraftTurn> RoundOrder(LeagueState& s, int round) {
+  std::vector<DraftTurn> turns;
+  for (int pick = 0; pick < s.numTeams(); ++pick) turns.push_back(TurnAt(s, round, pick));
+  return turns;
+}
+
+std::vector<std::string> RoundOrderLines(LeagueState& s, int round) {
+  std::vector<std::string> lines;
+  for (const DraftTurn& t : RoundOrder(s, round)) {
+    std::string line = fmt::format("{:>4}. {}", t.pick + 1, s.team(t.origTeam).Name.str());
+    if (t.holder < 0) line += " (passed: nobody holds the pick)";
+    else if (t.holder != t.origTeam) line += " (held by " + s.team(t.holder).Name.str() + ")";
+    lines.push_back(line);
+  }
+  return lines;
 }
 
 void UpdatePicks(LeagueState& s, int turnYear) {

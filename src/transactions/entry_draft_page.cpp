@@ -4,6 +4,8 @@
 #include "reports/html.h"
 #include "reports/page_files.h"
 #include "transactions/draft_list.h"
+#include "transactions/draft_lottery.h"
+#include "transactions/draft_turn.h"
 #include "transactions/entry_draft.h"
 #include "ui/ui.h"
 #include "util/numbers.h"
@@ -29,6 +31,14 @@ void DraftNew::cmdOutput() {
   std::vector<std::string> page{"<HTML>", "<TITLE>" + prefix + " Entry Draft</TITLE>",
                                 "<H1>" + prefix + " Entry Draft</H1>"};
   const std::vector<MadePick> made = picks();
+  if (auto move = s_.league.OptLottery && (s_.league.EntryDraftOn || !made.empty()) ? LotteryMoveText(s_)
+                                                                                      : std::nullopt)
+    page.push_back("<P>" + HtmlText(*move) + "</P>");
+  // Once the draft is over the picks held are next year's; the rounds below tell who picked for whom.
+  if (s_.league.EntryDraftOn) {
+    page.push_back("<H3>Order of Round " + NumText(s_.league.DraftRound + 1) + "</H3>");
+    for (const std::string& line : RoundOrderLines(s_, s_.league.DraftRound)) page.push_back(HtmlText(line) + "<BR>");
+  }
   for (int round = 0; round < s_.league.DraftRounds; ++round) {
     page.push_back("<H3>Round " + NumText(round + 1) + "</H3>");
     for (const MadePick& p : made) {

@@ -8,6 +8,7 @@
 
 #include "ui/scripted_ui.h"
 #include "util/cp1252.h"
+#include "util/error.h"
 
 namespace kvl {
 
@@ -59,7 +60,8 @@ void TerminalUi::tell(const std::string& text, const std::string& title) {
   out_ << Framed(title, text) << "\n";
 }
 
-std::optional<std::string> TerminalUi::readLine(const std::string& shown) {
+std::optional<std::string> TerminalUi::readLine(const std::string& shown, const std::string& asked,
+                                                const std::string& answeredBy) {
   progressDone();
   if (!answers_.empty()) {
     std::string a = answers_.front();
@@ -67,6 +69,9 @@ std::optional<std::string> TerminalUi::readLine(const std::string& shown) {
     out_ << shown << a << "\n";
     return a == "<cancel>" ? std::nullopt : std::optional<std::string>(a);
   }
+  if (typingRefused_)
+    throw KvlError(fmt::format("{} was asked, and a script's next line is not its answer: give {}", Show(asked),
+                               answeredBy));
   out_ << shown << std::flush;
   std::string line;
   if (!std::getline(in_, line)) {
@@ -88,8 +93,9 @@ Answer TerminalUi::ask(const std::string& text, const std::string& title, Button
     out_ << shown << (*answerAll_ == Answer::Yes ? "yes" : "no") << "\n";
     return *answerAll_;
   }
+  const std::string asked = fmt::format("the question \"{}\" ({})", text, title);
   for (;;) {
-    auto line = readLine(shown);
+    auto line = readLine(shown, asked, "--yes, --no or --answers FILE");
     if (!line) return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
     if (auto a = ParseAnswer(*line)) return *a;
   }
@@ -100,7 +106,7 @@ std::optional<std::string> TerminalUi::prompt(const std::string& text, const std
   std::string shown = Framed(title, text);
   if (!defaultValue.empty()) shown += fmt::format(" [{}]", Show(defaultValue));
   // Typed text goes into records, which hold Windows-1252; file names stay as typed.
-  auto line = readLine(shown + ": ");
+  auto line = readLine(shown + ": ", fmt::format("the prompt \"{}\" ({})", text, title), "--answers FILE");
   if (line && line->empty()) return defaultValue;
   if (line) return Utf8ToCp1252(*line);
   return line;
@@ -110,7 +116,7 @@ std::optional<std::filesystem::path> TerminalUi::chooseFile(const std::string& t
                                                             const std::filesystem::path& suggested, bool) {
   std::string shown = Framed(title, "file");
   if (!suggested.empty()) shown += fmt::format(" [{}]", suggested.string());
-  auto line = readLine(shown + ": ");
+  auto line = readLine(shown + ": ", fmt::format("the file choice \"{}\"", title), "--answers FILE");
   if (!line) return std::nullopt;
   if (line->empty()) return suggested.empty() ? std::nullopt : std::optional<std::filesystem::path>(suggested);
   return std::filesystem::path(*line);

@@ -25,6 +25,9 @@ class TerminalUi : public Ui {
   bool refusesOverwrite() const { return answerAll_ && !overwrite_ && answers_.empty(); }
   bool interactive() const { return interactive_; }
   void addAnswer(std::string a) { answers_.push_back(std::move(a)); }
+  // A script: standard input holds commands, never answers. A question or
+  // prompt that nothing given in advance answers fails, naming it.
+  void refuseTyping() { typingRefused_ = true; }
 
   void tell(const std::string& text, const std::string& title) override;
   Answer ask(const std::string& text, const std::string& title, Buttons buttons) override;
@@ -43,7 +46,9 @@ class TerminalUi : public Ui {
   static void ClearStop();
 
  private:
-  std::optional<std::string> readLine(const std::string& shown);
+  // `asked` and `answeredBy` name the question when a script cannot answer it.
+  std::optional<std::string> readLine(const std::string& shown, const std::string& asked,
+                                      const std::string& answeredBy);
   std::istream& in_;
   std::ostream& out_;
   std::ostream& err_;
@@ -51,6 +56,7 @@ class TerminalUi : public Ui {
   bool overwrite_ = false;
   std::deque<std::string> answers_;
   bool progressShown_ = false;
+  bool typingRefused_ = false;
   bool interactive_;
 };
 

@@ -2,6 +2,7 @@
 // the limits are the forms transcript's (e2e/golden/forms_align.txt); a broken division list is the
 // e2e tests'.
 #include "admin/alignment.h"
+#include "admin/league_creation.h"
 
 #include "support/kvl_test.h"
 #include "team/cards_email.h"
@@ -164,6 +165,28 @@ TEST_F(DeleteTeam, DeletingTheLastTeamLeavesAnEmptyLeague) {
   EXPECT_EQ(h.state.numTeams(), 0);
   EXPECT_EQ(fs::file_size(h.state.swap(swp::Roster)), 0u);
   for (const auto& c : ReadRecords<Coach>(h.state.swap(swp::Coaches))) EXPECT_EQ(c.Team, Coach::kNoTeam);
+}
+
+// A new team's abbreviation is its own: the name's first three letters, else
+// the first letter with two later ones, else the first two with a digit.
+TEST(NewTeam, AbbreviationIsUnique) {
+  const struct {
+    std::vector<std::string> taken;
+    std::string name, abbrev;
+  } cases[] = {
+      {{}, "Colorado", "COL"},
+      {{"col"}, "Columbus", "COU"},  // taken in any case
+      {{"COL", "COU"}, "Columbus", "COM"},
+      {{"LA "}, "LA Kings", "LAK"},  // blanks are no letters
+      {{"ABC", "AB2"}, "Abc", "AB3"},
+  };
+  for (const auto& c : cases) {
+    Harness h;
+    h.state.league.NumTeams = static_cast<u8>(c.taken.size() + 1);
+    for (std::size_t t = 0; t < c.taken.size(); ++t) h.state.Teams[t].Abbrev.set(c.taken[t]);
+    const int team = static_cast<int>(c.taken.size());
+    EXPECT_EQ(UniqueAbbrev(h.state, team, c.name), c.abbrev) << c.name;
+  }
 }
 
 }  // namespace

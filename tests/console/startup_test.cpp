@@ -39,6 +39,7 @@ TEST(StartUp, FindsTheLastLeagueOrSearchesTheHomeFolder) {
     std::vector<std::string> inHome;  // leagues written into the home folder
     std::vector<std::string> titles;  // what is told, in order
     std::string opens;                // "live", a home league, or "" for none
+    bool freshHome = false;           // the default files were just written
   } cases[] = {
       {"last league", Def::Live, {"other"}, {}, "live"},
       // Alpha's extension is upper case.
@@ -46,6 +47,8 @@ TEST(StartUp, FindsTheLastLeagueOrSearchesTheHomeFolder) {
       {"empty kvl.def", Def::Empty, {"alpha"}, {"Load Default League"}, "alpha"},
       {"last league deleted", Def::Deleted, {"beta"}, {"Load Last League"}, "beta"},
       {"nothing anywhere", Def::Deleted, {}, {"Load Last League", "Load Local League Files"}, ""},
+      {"no league made yet: quiet", Def::Missing, {}, {}, ""},
+      {"a new home folder: one line", Def::Missing, {}, {"KVL"}, "", true},
   };
   for (const auto& c : cases) {
     Harness h;
@@ -56,7 +59,7 @@ TEST(StartUp, FindsTheLastLeagueOrSearchesTheHomeFolder) {
       if (n == "Alpha") fs::rename(h.home / "Alpha.lge", h.home / "Alpha.LGE");
     }
     if (c.def != Def::Missing) WriteDef(h.home, c.def == Def::Empty ? "" : c.def == Def::Live ? live : gone);
-    std::string found = FindStartLeague(h.state);
+    std::string found = FindStartLeague(h.state, c.freshHome);
     std::vector<std::string> titles;
     for (const auto& t : h.ui.callsOf("tell")) titles.push_back(t.title);
     EXPECT_EQ(titles, c.titles) << c.name;

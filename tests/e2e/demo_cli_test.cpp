@@ -49,6 +49,15 @@ TEST(DemoCli, TheSameSeedMakesTheSameLeague) {
   ASSERT_EQ(again.kvl({"demo", "--teams", "8", "--seed", "7"}).status, 0);
   EXPECT_EQ(SnapshotDir(again.home, "Demo"), SnapshotDir(DemoHome(), "Demo"));
   again.kvlEach({{"info"}, {"view-all-coaches"}, {"view-team", "0"}, {"view-team", "7"}});
+  // The season played, at a glance.
+  const std::string season = (again.home / "Demo").string();
+  again.kvlEach({{"--league", season, "standings"},
+                 {"--league", season, "standings", "--by", "league", "--csv"},
+                 {"--league", season, "leaders", "--top", "3"},
+                 {"--league", season, "leaders", "--category", "save", "--top", "3"},
+                 {"find-player", "SJOBERG"},
+                 {"free-agents", "--pos", "d", "--sort", "age", "--top", "3"},
+                 {"free-agents", "--sort", "salary", "--top", "2", "--csv"}});
   again.kvl({"demo", "--teams", "51"});
   again.kvl({"demo", "--help"});
   again.expectTranscript(__FILE__, "demo.txt");
@@ -129,9 +138,17 @@ TEST(DemoCli, AnEntryDraftThenAnExpansionTeamStockedAndScheduled) {
   std::string list = free[0] + "\r\n\n\"" + free[1] + "\", " + free[0] + "\n" + held + "\n" + free[2] + "xxxxxxxxxx\n";
   for (std::size_t i = 2; i < free.size(); ++i) list += free[i] + "\n";
   WriteText(lg.dir.path() / "list.txt", list + "Nobody Atall\n");
-  lg.kvlEach({{"--yes", "entry-draft", "--list", (lg.dir.path() / "list.txt").string()},
+  // Four teams out of the playoffs draw the lottery; teams 0 and 1 swap their first picks.
+  lg.edit<League>(".lge", 1, [](League& l) { l.PlayoffSize = 2; });
+  const std::string a = FirstPick(lg.kvl({"trade", "0"}).out), b = FirstPick(lg.kvl({"trade", "1"}).out);
+  lg.transcript.clear();  // the two offers are drafts.txt's no business
+  lg.kvl({"--yes", "trade", "0", "1", "--a-pick", a, "--b-pick", b});
+  lg.kvlEach({{"--seed", "3", "--yes", "entry-draft", "--list", (lg.dir.path() / "list.txt").string()},
               {"--yes", "entry-draft", "--auto", "3"},
-              {"--yes", "continue-entry-draft", "--auto", "1000"}});
+              {"draft-tool", "--output"}});
+  const std::string during = ReadAll(lg.home / "Transfer" / "DemoReratedEntryDraft.html");
+  lg.note("the page, while the draft is on: " + during.substr(0, during.find("<H3>Round 1")));
+  lg.kvl({"--yes", "continue-entry-draft", "--auto", "1000"});
 
   Harness after;
   LoadLg(after.state, lg.path);

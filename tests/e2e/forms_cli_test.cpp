@@ -35,7 +35,12 @@ TEST(FormsCli, PlayerAndTeamCards) {
               {"--yes", "view-team", "0", "--set", "Seats=45000", "CurFin=", "CurFin=-$1000"},  // seats read unsigned
               {"--yes", "view-team", "0", "--set", "Ticket=0"},
               {"view-team", "0"},
-              {"view-team", "2"}});
+              {"view-team", "2"},
+              // An abbreviation another team has is refused; a field set on a list of teams, then on all.
+              {"--yes", "view-team", "1", "--set", "Abbrev=t02"},
+              {"--yes", "view-team", "1,T02", "--set", "Seats=0"},
+              {"--yes", "options", "--set", "OptMoney=on"},
+              {"--yes", "view-team", "ALL", "--set", "Seats=17000", "Ticket=45"}});
   // A prompt shows the field's value; an empty answer keeps it.
   lg.answered("no\nyes\nWinnipeg Jets\n\n\n\n\n\n\n\n\n\n\nno\n",
               {"view-team", "0",        "--edit", "Name",   "--edit", "Name",   "--edit", "CurFin",  "--edit",

@@ -1,6 +1,7 @@
 // The kvl program run as a user runs it: exit statuses, help, one-shot commands
 // with the exit protocol, answers given in advance, the shell, and bad input.
 // Whole runs are kept in golden transcripts (golden/*.txt).
+#include <fstream>
 #include <sstream>
 
 #include "console/startup.h"
@@ -146,10 +147,50 @@ TEST(Cli, AnswersSaveAsRenameAndTheShell) {
             "coise de Hocke");
   lg.kvl({"shell"}, "info\nrename-league \"Shell League\"\nsave\nexit\n");
   lg.note("stored: " + lg.storedName());
-  // A wrong command does not end the shell; the end of input answers the exit question no.
-  lg.kvl({"shell"}, "rename-league\nrename-league Unsaved\ninfo\n");
-  lg.note("stored: " + lg.storedName());
+  // A script stops at its first failing command and saves nothing it did not save
+  // itself; a question is never answered by its next line; --keep-going runs on.
+  const std::string script = (lg.dir.path() / "season.kvl").string();
+  const std::string scriptText = "rename-league 'Tampa Bay'  # quoted\n\nplay-games --dayz 5\ninfo\n";
+  WriteText(script, scriptText);
+  const struct {
+    std::vector<std::string> args;
+    std::string input;
+  } scripts[] = {
+      {{"shell", "--script", script}, ""},
+      {{"shell"}, "rename-league 'Tampa Bay'\nload " + lg.path + "\nyes\n"},
+      {{"shell"}, "rename-league Unsaved\n"},
+      {{"--yes", "shell", "--keep-going"},
+       "rename-league \"Tampa\nrename-league\nrename-league 'Tampa'\\ Bay\\ \"\\\"Q\\\"\"\n"},
+  };
+  for (const auto& run : scripts) {
+    std::istringstream lines(run.input.empty() ? scriptText : run.input);
+    for (std::string line; std::getline(lines, line);) lg.note("< " + line);
+    lg.kvl(run.args, run.input);
+    lg.note("stored: " + lg.storedName());
+  }
   lg.expectTranscript(__FILE__, "answers_and_shell.txt");
+}
+
+// The README's "Your first league", its lines as one script from an empty home
+// folder, so that the README cannot drift from the program.
+TEST(Cli, TheReadmeWalkthroughRuns) {
+  std::ifstream readme(fs::path(KVL_DATA_DIR).parent_path() / "README.md");
+  std::string script;
+  bool inside = false;
+  for (std::string line; std::getline(readme, line);) {
+    if (line.starts_with("<!-- walkthrough")) inside = line != "<!-- walkthrough end -->";
+    if (!inside || !line.starts_with("    kvl ")) continue;
+    std::string command = line.substr(8);
+    script += (command.starts_with("--yes ") ? command.substr(6) : command) + "\n";
+  }
+  ASSERT_NE(script, "");
+  CliLeague lg;
+  const fs::path file = lg.dir.path() / "first.kvl";
+  WriteText(file, script);
+  std::istringstream lines(script);
+  for (std::string line; std::getline(lines, line);) lg.note("< " + line);
+  EXPECT_EQ(lg.kvl({"--seed", "1", "--yes", "shell", "--script", file.string()}).status, 0);
+  lg.expectTranscript(__FILE__, "walkthrough.txt");
 }
 
 // A damaged league fails at once; values a record can hold but a game or a form

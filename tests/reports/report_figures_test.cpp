@@ -2,6 +2,7 @@
 // the order of the leaders' tables, and what a roster costs.
 #include <gtest/gtest.h>
 
+#include "reports/glance.h"
 #include "reports/html.h"
 #include "reports/payroll.h"
 #include "reports/player_lists.h"
@@ -256,6 +257,53 @@ TEST(Payroll, ProspectFeesAreInHundreds) {
   list.Salary[1] = -5;   // a negative fee is no fee
   list.Salary[2] = 900;  // no name, no fee
   EXPECT_EQ(ProspectFees(h.state, 0), 25000);
+}
+
+// A name is found by any part of it, in any case, with or without its accents
+// (names are Windows-1252, as the records hold them).
+TEST(Glance, FindPlayerIgnoresCaseAndAccents) {
+  LeaguePlan plan = StandardLeague(2);
+  plan.rosters[0][0].Name.set("J\xE9r\xF4me Lef\xE8vre");
+  plan.rosters[1][3].Name.set("JEROME Smith");
+  Harness h;
+  h.load(plan);
+  const struct {
+    std::string text;
+    std::vector<std::string> found;  // "name team/slot"
+  } cases[] = {
+      {"jerome", {"J\xE9r\xF4me Lef\xE8vre 0/0", "JEROME Smith 1/3"}},
+      {"J\xC9R\xD4ME", {"J\xE9r\xF4me Lef\xE8vre 0/0", "JEROME Smith 1/3"}},  // accents typed, upper case
+      {"me lefe", {"J\xE9r\xF4me Lef\xE8vre 0/0"}},                              // across the blank
+      {"lefevre smith", {}},
+  };
+  for (const auto& c : cases) {
+    std::vector<std::string> found;
+    for (const FoundPlayer& p : FindPlayers(h.state, c.text))
+      found.push_back(p.name + " " + std::to_string(p.team) + "/" + std::to_string(p.slot));
+    EXPECT_EQ(found, c.found) << c.text;
+  }
+}
+
+TEST(Glance, FreeAgentsChosenAndSorted) {
+  const std::vector<FreeAgentEntry> pool{{1, "A", kDefence, 30, 70, 500}, {2, "B", kCentre, 20, 80, 900},
+                                         {3, "C", kDefence, 22, 75, 900}, {4, "D", kDefence, 22, 60, 100}};
+  const struct {
+    const char* rule;
+    std::optional<int> pos;
+    FreeAgentOrder order;
+    std::size_t top;
+    std::vector<int> records;
+  } cases[] = {
+      {"best first, every position", std::nullopt, FreeAgentOrder::Overall, 9, {2, 3, 1, 4}},
+      {"defence only, the first two", kDefence, FreeAgentOrder::Overall, 2, {3, 1}},
+      {"youngest first, a tie in list order", kDefence, FreeAgentOrder::Age, 9, {3, 4, 1}},
+      {"dearest first, a tie in list order", std::nullopt, FreeAgentOrder::Salary, 3, {2, 3, 1}},
+  };
+  for (const auto& c : cases) {
+    std::vector<int> records;
+    for (const FreeAgentEntry& e : ChooseFreeAgents(pool, c.pos, c.order, c.top)) records.push_back(e.record);
+    EXPECT_EQ(records, c.records) << c.rule;
+  }
 }
 
 }  // namespace
