@@ -1,6 +1,7 @@
 #include "season/new_season.h"
 
 #include "league/league_files.h"
+#include "season/rerate.h"
 #include "season/reset_league.h"
 #include "transactions/priority.h"
 #include "ui/ui.h"
@@ -31,6 +32,7 @@ void RollOverSeason(LeagueState& s) {
   l.OffSeason = l.SeasonOver = l.InPlayoffs = l.ScheduleMade = l.ExpansionDraftOn = kFalse;
   l.NextGameMark = l.GamesPlayed = 0;
   l.FirstDayPending = kTrue;
+  if (l.LgByteB == kReratedMark) l.LgByteB = 0;
   ResetLeague(s);
   AgeLeague(s);
   // Never saved over the old season by accident: the league has no name now.

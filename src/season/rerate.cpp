@@ -72,11 +72,17 @@ void RerateLeague(LeagueState& s) {
     SaveTeam(s, t, 0);
   }
   s.ui.progressDone();
+  s.league.LgByteB = kReratedMark;
   s.Dirty = true;
 }
 
 bool ReRate(LeagueState& s) {
   const std::string title = "Rerate Players";
+  if (s.league.LgByteB == kReratedMark &&
+      s.ui.ask("The league was re-rated already this off-season: every player would grow or fade a second "
+               "year.\n\nRe-rate the players again?",
+               title, Buttons::YesNo) != Answer::Yes)
+    return false;
   if (s.ui.ask("Rerating players simulates growth and development that occurs between seasons.\n\nWould you like to "
                "perform a player re-rate?",
                title, Buttons::YesNo) != Answer::Yes) {

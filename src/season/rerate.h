@@ -5,6 +5,10 @@
 
 namespace kvl {
 
+// The header's spare byte LgByteB holds this once the off-season's re-rate is
+// done, so a second one is asked about; the new season clears it.
+constexpr u8 kReratedMark = 'R';
+
 // The growth class of a player of this age (draws from `rnd`).
 int GrowthClass(Rnd& rnd, int age);
 // Re-rates one player: ratings Int..Sco (a goalie's Int..Pcc), Exp and Ldr,

@@ -87,7 +87,8 @@ TEST(YearCommands, ASeasonThePlayoffsToAChampionANewSeasonAndASecondYear) {
   // commissioner's next command does: the playoffs, then each save under a new
   // name (a name without a folder goes to the home folder).
   lg.pinLeague = false;
-  lg.kvlEach({{"--yes", "start-playoffs"}, {"info"}, {"--yes", "play-games", "--season", "--save-as", "rerated"}, {"info"}});
+  lg.kvlEach({{"--yes", "start-playoffs"}, {"info"}, {"--yes", "play-games", "--season", "--save-as", "rerated"}, {"info"},
+              {"--no", "rerate"}});  // re-rated after the final: a second one is asked about
   const std::string rerated = (lg.home / "rerated").string(), next = (folder / "next").string();
   EXPECT_EQ(files((folder / "year").string()), season) << "the regular season's files stay as they were";
   Harness before;
@@ -120,6 +121,8 @@ TEST(YearCommands, ASeasonThePlayoffsToAChampionANewSeasonAndASecondYear) {
   Harness after;
   LoadLg(after.state, next);
   after.state.leagueLock.release();
+  EXPECT_EQ((std::pair{before.state.league.LgByteB, after.state.league.LgByteB}), (std::pair<u8, u8>{'R', 0}))
+      << "the re-rate's mark, cleared by the new season";
   for (int t = 0; t < after.state.numTeams(); ++t) {
     EXPECT_EQ(after.state.team(t).W[0] + after.state.team(t).L[0] + after.state.team(t).GF, 0) << "team " << t;
     loadteam(before.state, t, 0);
