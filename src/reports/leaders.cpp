@@ -111,9 +111,11 @@ void FarmLeadersPage(PageRun& run, const std::vector<RosterEntry>& all) {
     if (e.p.Pos != kGoalie && e.p.FarmStatC + e.p.FarmStatD > 0) skaters.push_back(e);
     if (e.p.Pos == kGoalie && e.p.FarmStatA > 0 && e.p.FarmStatA >= minGP) goalies.push_back(e);
   }
-  auto farmPoints = [](const Player& p) { return p.FarmStatC + p.FarmStatD; };
+  // The farm game adds two to its scorer's total for each goal credited.
+  auto farmGoals = [](const Player& p) { return p.FarmStatD / 2; };
+  auto farmPoints = [&](const Player& p) { return p.FarmStatC + farmGoals(p); };
   skaters = RankPlayers(skaters, kScoringRows, [&](const RosterEntry& a, const RosterEntry& r) {
-    return OutScores(farmPoints(a.p), a.p.FarmStatA, a.p.FarmStatD, farmPoints(r.p), r.p.FarmStatA, r.p.FarmStatD);
+    return OutScores(farmPoints(a.p), a.p.FarmStatA, farmGoals(a.p), farmPoints(r.p), r.p.FarmStatA, farmGoals(r.p));
   });
   auto farmGaa = [](const Player& p) { return double(p.FarmStatB) / p.FarmStatA; };
   goalies = RankPlayers(goalies, kGoalieRows,
@@ -125,7 +127,7 @@ void FarmLeadersPage(PageRun& run, const std::vector<RosterEntry>& all) {
   for (std::size_t i = 0; i < skaters.size(); ++i) {
     const Player& p = skaters[i].p;
     page.add(RowUnder(Label(s, i, skaters[i], valueEnds),
-                      {NumText(p.FarmStatA), NumText(p.FarmStatD), NumText(p.FarmStatC), NumText(farmPoints(p)), "0"},
+                      {NumText(p.FarmStatA), NumText(farmGoals(p)), NumText(p.FarmStatC), NumText(farmPoints(p)), "0"},
                       valueEnds));
   }
   page.add("</PRE>");

@@ -41,6 +41,7 @@ TEST(Pages, TheSiteAfterTwoDays) {
   LeaguePlan plan = SimLeague(4);
   plan.rosters[0][1].Hand = 'R';
   plan.rosters[0][2].Hand = 0;  // none stored
+  plan.header.OptFarm = kTrue;  // the farm clubs play beside the games: their standings and leaders
   Published lg(plan);
   EXPECT_EQ(lg.publish(), 24);
   // Free agents by position; a goalie's rating of 0 does not apply to him.
